@@ -1,0 +1,43 @@
+# One library for each floor of the building; src/ has one folder for each room.
+
+# quorrin_library(NAME FOLDERS folder... LINK library...): all sources right inside the folders.
+function(quorrin_library name)
+    cmake_parse_arguments(ARG "" "" "FOLDERS;LINK" ${ARGN})
+    set(sources "")
+    foreach(folder ${ARG_FOLDERS})
+        file(GLOB found CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp ${PROJECT_SOURCE_DIR}/src/${folder}/*.h)
+        list(APPEND sources ${found})
+    endforeach()
+    set(compiled ${sources})
+    list(FILTER compiled INCLUDE REGEX "\\.cpp$")
+    if(compiled)
+        add_library(${name} STATIC ${sources})
+        target_link_libraries(${name} PUBLIC quorrin_options ${ARG_LINK})
+    else()
+        add_library(${name} INTERFACE)
+        target_link_libraries(${name} INTERFACE quorrin_options ${ARG_LINK})
+    endif()
+endfunction()
+
+quorrin_library(quorrin_base FOLDERS platform base)
+
+# The robot protocol. Generated code is not held to our warnings.
+protobuf_generate_cpp(WIRE_SOURCES WIRE_HEADERS ${PROJECT_SOURCE_DIR}/src/wire/robot.proto)
+add_library(quorrin_proto STATIC ${WIRE_SOURCES} ${WIRE_HEADERS})
+target_include_directories(quorrin_proto SYSTEM PUBLIC ${CMAKE_CURRENT_BINARY_DIR})
+target_link_libraries(quorrin_proto PUBLIC protobuf::libprotobuf-lite)
+quorrin_library(quorrin_wire FOLDERS wire LINK quorrin_base quorrin_proto)
+
+# The station: plain C++, no Qt, no clock, no socket.
+quorrin_library(quorrin_station
+    FOLDERS session/record navigation/math robotlink navigation sound imaging remote console session
+    LINK quorrin_wire quorrin_base)
+
+quorrin_library(quorrin_host FOLDERS platform/host LINK quorrin_base)
+quorrin_library(quorrin_virtual FOLDERS platform/virtual LINK quorrin_base)
+quorrin_library(quorrin_qt FOLDERS platform/qt LINK quorrin_host quorrin_base Qt6::Core Qt6::Network)
+
+quorrin_library(quorrin_gateway FOLDERS gateway LINK quorrin_wire)
+quorrin_library(quorrin_robot FOLDERS robot LINK quorrin_station quorrin_wire box2d::box2d nlohmann_json::nlohmann_json)
+quorrin_library(quorrin_replay FOLDERS replay LINK quorrin_station quorrin_robot quorrin_virtual quorrin_host nlohmann_json::nlohmann_json)
+quorrin_library(quorrin_client FOLDERS client LINK quorrin_base)

@@ -1,0 +1,13 @@
+# quorrin_program(NAME MAIN library...): one short main under src/apps.
+function(quorrin_program name main)
+    if(EXISTS ${PROJECT_SOURCE_DIR}/src/apps/${main})
+        add_executable(${name} ${PROJECT_SOURCE_DIR}/src/apps/${main})
+        target_link_libraries(${name} PRIVATE quorrin_options ${ARGN})
+    endif()
+endfunction()
+
+quorrin_program(quorrin-replay quorrin_replay.cpp quorrin_replay)
+quorrin_program(QuorrinGatewaymot gateway_mot.cpp quorrin_gateway quorrin_qt)
+quorrin_program(QuorrinGatewayTI gateway_ti.cpp quorrin_gateway quorrin_qt)
+quorrin_program(quorrin-robot quorrin_robot.cpp quorrin_robot quorrin_qt Qt6::Gui Qt6::Widgets)
+quorrin_program(quorrin-station-headless quorrin_station_headless.cpp quorrin_station quorrin_qt)

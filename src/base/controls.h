@@ -1,0 +1,274 @@
+// The kinds of controls, as values with events.
+//
+// Change events run inside the write, and only when the value differs. set...() is the program's write,
+// operator...() what a person does: the latter does nothing on a control that is not usable (disabled, or its
+// form not shown), the former always works. A click called by the program runs the handler whatever the state.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/form.h"
+#include "platform/timer_mm.h"
+
+namespace quorrin {
+
+// A colour as one number, red in the low byte, then green, then blue.
+using Colour = std::int32_t;
+constexpr Colour rgb(int red, int green, int blue) {
+    return red + green * 256 + blue * 65536;
+}
+
+class Label : public Control {
+  public:
+    Label(Form& form, std::string name, std::string caption = "");
+    const std::string& caption() const { return caption_; }
+    void setCaption(std::string caption);
+    std::string valueText() const override { return caption_; }
+    std::function<void()> onChange;
+
+  private:
+    std::string caption_;
+};
+
+// Which texts a person may finish in a box; a script or the program may write any text.
+enum class Accepts { any, number, integer };
+
+class TextBox : public Control {
+  public:
+    TextBox(Form& form, std::string name, std::string text = "", Accepts accepts = Accepts::any);
+    const std::string& text() const { return text_; }
+    void setText(std::string text);
+    std::string valueText() const override { return text_; }
+    Accepts accepts() const { return accepts_; }
+    // Would a window let a person finish this text here?
+    bool allows(const std::string& text) const;
+
+    const std::string& tag() const { return tag_; }
+    void setTag(std::string tag) { tag_ = std::move(tag); }
+    Colour backColour() const { return back_; }
+    void setBackColour(Colour colour);
+    Colour foreColour() const { return fore_; }
+    void setForeColour(Colour colour);
+    // The whole text is marked, as on entering an address box.
+    bool selected() const { return selected_; }
+    void setSelected(bool selected);
+
+    void operatorEdit(std::string text);
+    void operatorKey(int key);
+    void operatorFocus();
+
+    std::function<void()> onChange;
+
+  private:
+    std::string text_;
+    std::string tag_;
+    Accepts accepts_;
+    Colour back_ = rgb(255, 255, 255);
+    Colour fore_ = rgb(0, 0, 0);
+    bool selected_ = false;
+};
+
+class CommandButton : public Control {
+  public:
+    CommandButton(Form& form, std::string name, std::string caption = "");
+    const std::string& caption() const { return caption_; }
+    void setCaption(std::string caption);
+    // Number of the button's picture in the form's image list; 0 is none.
+    int picture() const { return picture_; }
+    void setPicture(int picture);
+    std::string valueText() const override { return caption_; }
+
+    void click() {
+        if (onClick) onClick();
+    }
+    void operatorClick();
+    void operatorPress();
+    void operatorRelease();
+
+    std::function<void()> onClick;
+    std::function<void()> onMouseDown;
+    std::function<void()> onMouseUp;
+
+  private:
+    std::string caption_;
+    int picture_ = 0;
+    bool pressed_ = false;
+};
+
+class CheckBox : public Control {
+  public:
+    CheckBox(Form& form, std::string name, std::string caption = "", bool checked = false);
+    bool checked() const { return checked_; }
+    void setChecked(bool checked);
+    const std::string& caption() const { return caption_; }
+    std::string valueText() const override { return checked_ ? "1" : "0"; }
+    void operatorSet(bool checked);
+    std::function<void()> onChange;
+
+  private:
+    std::string caption_;
+    bool checked_;
+};
+
+// One of a set of options; choosing it is the form's business (its handler clears the others).
+class OptionButton : public Control {
+  public:
+    OptionButton(Form& form, std::string name, std::string caption = "", bool chosen = false);
+    bool chosen() const { return chosen_; }
+    void setChosen(bool chosen);
+    const std::string& caption() const { return caption_; }
+    std::string valueText() const override { return chosen_ ? "True" : "False"; }
+    void operatorChoose();
+    std::function<void()> onChange;
+
+  private:
+    std::string caption_;
+    bool chosen_;
+};
+
+// A slider or scroll bar. A value outside its limits is brought to the nearer one.
+class Slider : public Control {
+  public:
+    Slider(Form& form, std::string name, std::int32_t minimum, std::int32_t maximum, std::int32_t value);
+    std::int32_t value() const { return value_; }
+    void setValue(std::int32_t value);
+    std::int32_t minimum() const { return minimum_; }
+    std::int32_t maximum() const { return maximum_; }
+    void setRange(std::int32_t minimum, std::int32_t maximum);
+    std::int32_t smallChange = 1;
+    std::int32_t largeChange = 1;
+    std::string valueText() const override { return std::to_string(value_); }
+    void operatorMove(std::int32_t value);
+    std::function<void()> onChange;
+
+  private:
+    std::int32_t minimum_;
+    std::int32_t maximum_;
+    std::int32_t value_;
+};
+
+// A drop-down: a list of texts and the one that is chosen (-1: none).
+class ComboBox : public Control {
+  public:
+    ComboBox(Form& form, std::string name);
+    const std::vector<std::string>& items() const { return items_; }
+    void addItem(std::string item);
+    void clear();
+    int index() const { return index_; }
+    void setIndex(int index);
+    std::string text() const;
+    std::string valueText() const override { return text(); }
+    // Chooses the entry of that text; a text that is not in the list changes nothing.
+    void operatorChoose(const std::string& item);
+    std::function<void()> onChange;
+
+  private:
+    std::vector<std::string> items_;
+    int index_ = -1;
+};
+
+// A list of lines, each with a number of its own.
+class ListBox : public Control {
+  public:
+    ListBox(Form& form, std::string name);
+    std::size_t count() const { return lines_.size(); }
+    const std::string& line(std::size_t index) const { return lines_.at(index).first; }
+    int itemData(std::size_t index) const { return lines_.at(index).second; }
+    void add(std::string line, int itemData);
+    void remove(std::size_t index);
+    // The lines, joined by line feeds.
+    std::string valueText() const override;
+
+  private:
+    std::vector<std::pair<std::string, int>> lines_;
+};
+
+// A coloured lamp.
+class Shape : public Control {
+  public:
+    Shape(Form& form, std::string name, Colour fill);
+    Colour fill() const { return fill_; }
+    void setFill(Colour fill);
+    std::string valueText() const override { return std::to_string(fill_); }
+
+  private:
+    Colour fill_;
+};
+
+// A picture: from the form's image list by number (0: none), or from a file by path.
+class Picture : public Control {
+  public:
+    Picture(Form& form, std::string name);
+    int number() const { return number_; }
+    void setNumber(int number);
+    const std::string& file() const { return file_; }
+    void setFile(std::string file);
+    // How often the picture was told to draw itself anew.
+    std::int64_t refreshes() const { return refreshes_; }
+    void refresh();
+    // The number, or the file where one was loaded.
+    std::string valueText() const override;
+
+  private:
+    int number_ = 0;
+    std::string file_;
+    std::int64_t refreshes_ = 0;
+};
+
+// A group of controls that is shown, hidden and moved as one. Position in twips.
+class Frame : public Control {
+  public:
+    Frame(Form& form, std::string name, std::string caption = "");
+    const std::string& caption() const { return caption_; }
+    std::string valueText() const override { return caption_; }
+
+  private:
+    std::string caption_;
+};
+
+// A form's timer: periodic, found by name like any control.
+class Timer : public Control {
+  public:
+    Timer(Form& form, std::string name, Clock& clock, std::int64_t intervalMs);
+    bool running() const { return timer_.enabled(); }
+    void setRunning(bool running) { timer_.setEnabled(running); }
+    std::int64_t interval() const { return timer_.interval(); }
+    void setInterval(std::int64_t intervalMs) { timer_.setInterval(intervalMs); }
+    void setHandler(std::function<void()> handler) { timer_.setHandler(std::move(handler)); }
+    std::string valueText() const override { return timer_.enabled() ? "True" : "False"; }
+
+  private:
+    TimerMM timer_;
+};
+
+// One key of a toolbar; its name is "toolbar.Key".
+using ToolbarKey = CommandButton;
+
+// `count` controls that share a name and differ by index, starting with `first`: name(first), name(first+1)...
+template <typename T, std::size_t count>
+class ControlArray {
+  public:
+    template <typename... Args>
+    ControlArray(Form& form, const std::string& name, int first, const Args&... args) : first_(first) {
+        for (std::size_t i = 0; i < count; ++i) {
+            const int index = first + static_cast<int>(i);
+            elements_[i] = std::make_unique<T>(form, name + "(" + std::to_string(index) + ")", args...);
+        }
+    }
+    T& operator()(int index) { return *elements_.at(static_cast<std::size_t>(index - first_)); }
+    const T& operator()(int index) const { return *elements_.at(static_cast<std::size_t>(index - first_)); }
+    int first() const { return first_; }
+    int last() const { return first_ + static_cast<int>(count) - 1; }
+
+  private:
+    int first_;
+    std::array<std::unique_ptr<T>, count> elements_;
+};
+
+}  // namespace quorrin

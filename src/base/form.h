@@ -1,0 +1,107 @@
+// A form without a window: named controls with values, and what an operator may do to them.
+//
+// A form owns no widget. Controls register themselves under their name ("txtTh1", an array element as
+// "txt_ip(1)", a toolbar key as "tbaMusic.Play"), so that the desktop, the replay and the tests find them the
+// same way. A control of a form that is not shown, and a disabled control, ignore the operator; the program
+// itself may write them at any time.
+//
+// Controls hold a reference to their form and must not outlive it.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quorrin {
+
+class Control;
+
+class Form {
+  public:
+    explicit Form(std::string name) : name_(std::move(name)) {}
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+    virtual ~Form() = default;
+
+    const std::string& name() const { return name_; }
+
+    bool shown() const { return shown_; }
+    // Showing a form makes its window the active one.
+    void show();
+    void hide();
+    // The form's window became the active one. Does nothing while the form is not shown.
+    void activate();
+
+    // The control of that name, or null.
+    Control* find(std::string_view controlName) const;
+    // In the order of definition.
+    const std::vector<Control*>& controls() const { return order_; }
+
+    // The control that has the focus, or null.
+    Control* focused() const { return focused_; }
+    // Moves the focus: the box that had it is left first, then the new one gets it. No effect when `control`
+    // has it already. A control's leave handler may keep the focus by calling stayFocused().
+    void moveFocus(Control& control);
+    void stayFocused() { stay_ = true; }
+
+    // Hooks of a view; run after the change.
+    std::function<void()> onShownChanged;
+    std::function<void()> onActivate;
+    std::function<void()> onFocusMoved;
+
+  private:
+    friend class Control;
+    std::string name_;
+    bool shown_ = false;
+    bool stay_ = false;
+    Control* focused_ = nullptr;
+    std::map<std::string, Control*, std::less<>> byName_;
+    std::vector<Control*> order_;
+};
+
+// What all controls share. Every control has a name that is unique in its form.
+class Control {
+  public:
+    Control(Form& form, std::string name);
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    Form& form() const { return form_; }
+    const std::string& name() const { return name_; }
+
+    bool enabled() const { return enabled_; }
+    void setEnabled(bool enabled);
+    bool visible() const { return visible_; }
+    void setVisible(bool visible);
+
+    // May the operator use it now?
+    bool usable() const { return enabled_ && form_.shown(); }
+
+    // Text, caption or value: what a watch prints.
+    virtual std::string valueText() const = 0;
+
+    // Focus handlers of the form's logic.
+    std::function<void()> onGotFocus;
+    std::function<void()> onLostFocus;
+    // A key press that reached the control; `key` is the key's number (8 backspace, 13 enter).
+    std::function<void(int key)> onKeyPress;
+
+    // Hook of a view: something that can be seen has changed.
+    std::function<void()> onLook;
+
+  protected:
+    void looks() const {
+        if (onLook) onLook();
+    }
+
+  private:
+    Form& form_;
+    std::string name_;
+    bool enabled_ = true;
+    bool visible_ = true;
+};
+
+}  // namespace quorrin

@@ -1,0 +1,30 @@
+#include "platform/clock.h"
+
+#include <utility>
+
+namespace quorrin {
+
+void Clock::block(std::int64_t ms) {
+    if (beforeBlock_) beforeBlock_();
+    wait(ms);
+}
+
+void Clock::yield() {
+    collectOutside();
+    const std::int64_t limitMs = nowMs();
+    while (queue_.deliverNext(limitMs, false, [](std::int64_t) {}, [this] { return nowMs(); })) {
+    }
+    queueChanged();
+}
+
+void Clock::post(EventQueue::Handler handler, EventSource* source) {
+    queue_.addMessage(nowMs(), source, std::move(handler));
+    queueChanged();
+}
+
+void Clock::arrive(EventQueue::Handler handler, EventSource* source) {
+    queue_.addOutside(nowMs(), source, std::move(handler));
+    queueChanged();
+}
+
+}  // namespace quorrin

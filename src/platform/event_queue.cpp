@@ -1,0 +1,116 @@
+#include "platform/event_queue.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace quorrin {
+
+namespace {
+
+class RunningMark {
+  public:
+    explicit RunningMark(bool* flag) : flag_(flag) {
+        if (flag_ != nullptr) *flag_ = true;
+    }
+    ~RunningMark() {
+        if (flag_ != nullptr) *flag_ = false;
+    }
+    RunningMark(const RunningMark&) = delete;
+    RunningMark& operator=(const RunningMark&) = delete;
+
+  private:
+    bool* flag_;
+};
+
+std::int64_t nextOnGrid(std::int64_t dueMs, std::int64_t intervalMs, std::int64_t nowMs) {
+    const std::int64_t next = dueMs + intervalMs;
+    if (next > nowMs) return next;
+    return dueMs + ((nowMs - dueMs) / intervalMs + 1) * intervalMs;
+}
+
+}  // namespace
+
+void EventQueue::addOutside(std::int64_t dueMs, EventSource* source, Handler handler) {
+    outside_.push_back(Item{dueMs, ++lastOrder_, source, std::move(handler)});
+}
+
+void EventQueue::addMessage(std::int64_t dueMs, EventSource* source, Handler handler) {
+    messages_.push_back(Item{dueMs, ++lastOrder_, source, std::move(handler)});
+}
+
+void EventQueue::addTimer(const std::shared_ptr<TimerNode>& node) {
+    timers_.push_back(node);
+}
+
+void EventQueue::removeTimer(const std::shared_ptr<TimerNode>& node) {
+    timers_.erase(std::remove(timers_.begin(), timers_.end(), node), timers_.end());
+}
+
+std::optional<EventQueue::Choice> EventQueue::choose(std::int64_t limitMs, bool withWatches) const {
+    std::optional<Choice> best;
+    const auto offer = [&](const Key& key) { return key.dueMs <= limitMs && (!best || key < best->key); };
+
+    // Only the first outside event can be delivered: one that waits holds back those behind it.
+    if (!outside_.empty()) {
+        const Item& item = outside_.front();
+        const bool waits = item.source != nullptr && item.source->running_;
+        const Key key{item.dueMs, Kind::outside, item.order};
+        if (!waits && offer(key)) best = Choice{key, nullptr, 0};
+    }
+    for (std::size_t i = 0; i < messages_.size(); ++i) {
+        const Item& item = messages_[i];
+        if (item.source != nullptr && item.source->running_) continue;
+        const Key key{item.dueMs, Kind::message, item.order};
+        if (offer(key)) best = Choice{key, nullptr, i};
+        break;
+    }
+    const std::shared_ptr<TimerNode>* chosen = nullptr;
+    for (const auto& timer : timers_) {
+        if (!timer->enabled || timer->intervalMs <= 0 || timer->source.running_) continue;
+        if (timer->kind == Kind::watch && !withWatches) continue;
+        const Key key{timer->dueMs, timer->kind, timer->order};
+        if (offer(key)) {
+            best = Choice{key, nullptr, 0};
+            chosen = &timer;
+        }
+    }
+    if (chosen != nullptr) best->timer = *chosen;
+    return best;
+}
+
+std::optional<std::int64_t> EventQueue::nextDue(bool withWatches) const {
+    const auto choice = choose(std::numeric_limits<std::int64_t>::max(), withWatches);
+    if (!choice) return std::nullopt;
+    return choice->key.dueMs;
+}
+
+bool EventQueue::deliverNext(std::int64_t limitMs, bool withWatches,
+                             const std::function<void(std::int64_t)>& advance,
+                             const std::function<std::int64_t()>& now) {
+    const auto choice = choose(limitMs, withWatches);
+    if (!choice) return false;
+    advance(choice->key.dueMs);
+
+    if (choice->timer) {
+        const std::shared_ptr<TimerNode>& timer = choice->timer;
+        if (timer->periodic) {
+            timer->dueMs = nextOnGrid(timer->dueMs, timer->intervalMs, now());
+        } else {
+            timer->enabled = false;
+        }
+        const RunningMark mark(&timer->source.running_);
+        if (timer->handler) timer->handler();
+        return true;
+    }
+
+    std::deque<Item>& items = choice->key.kind == Kind::outside ? outside_ : messages_;
+    const auto place = items.begin() + static_cast<std::ptrdiff_t>(choice->index);
+    const Item item = std::move(*place);
+    items.erase(place);
+    const RunningMark mark(item.source != nullptr ? &item.source->running_ : nullptr);
+    item.handler();
+    return true;
+}
+
+}  // namespace quorrin

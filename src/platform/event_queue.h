@@ -1,0 +1,97 @@
+// The one ordered queue of everything that can happen to a single-threaded program.
+//
+// Order of delivery: by (due time, kind, order within the kind). Kinds, first to last: what the outside
+// world did, in order of arrival; messages that the program posted to itself, in order of posting; timers,
+// in the order in which each was last switched from disabled to enabled; watches.
+//
+// A handler belongs to an EventSource (or to none). While a source's handler runs, the source is not entered
+// again by a nested delivery: its event waits and is delivered later in the same order. An outside event that
+// waits holds back all outside events behind it.
+//
+// A periodic timer keeps its grid: on delivery of the event due at d with the clock at now, its next due time
+// is the first d + k * interval later than now, set before its handler runs, so missed periods collapse into
+// one late event. A one-shot timer is disabled before its handler runs. Interval 0 never fires.
+//
+// Not a clock and no thread: the owner (a Clock) says what time it is and when to deliver.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace quorrin {
+
+// The identity of one handler for the rule "a running handler is not entered again".
+class EventSource {
+  public:
+    bool running() const { return running_; }
+
+  private:
+    friend class EventQueue;
+    bool running_ = false;
+};
+
+class EventQueue {
+  public:
+    using Handler = std::function<void()>;
+    enum class Kind : std::uint8_t { outside = 1, message = 2, timer = 3, watch = 4 };
+
+    struct Key {
+        std::int64_t dueMs = 0;
+        Kind kind = Kind::outside;
+        std::uint64_t order = 0;
+        auto operator<=>(const Key&) const = default;
+    };
+
+    // State of one timer. Owned jointly by its TimerMM and, during delivery, by the queue.
+    struct TimerNode {
+        EventSource source;
+        Handler handler;
+        std::int64_t dueMs = 0;
+        std::int64_t intervalMs = 0;
+        std::uint64_t order = 0;  // position in the order of enabling
+        Kind kind = Kind::timer;
+        bool periodic = true;
+        bool enabled = false;
+    };
+
+    void addOutside(std::int64_t dueMs, EventSource* source, Handler handler);
+    void addMessage(std::int64_t dueMs, EventSource* source, Handler handler);
+    void addTimer(const std::shared_ptr<TimerNode>& node);
+    void removeTimer(const std::shared_ptr<TimerNode>& node);
+    // Gives the node its place behind all timers enabled so far.
+    void takeOrder(TimerNode& node) { node.order = ++lastOrder_; }
+
+    // Due time of the first event that may be delivered now, watches left out unless asked for.
+    std::optional<std::int64_t> nextDue(bool withWatches) const;
+
+    // Delivers the first deliverable event due at or before `limitMs`; `nowMs` is read after `advance(due)`
+    // was called, so that a virtual clock can jump. Returns false when there is none.
+    bool deliverNext(std::int64_t limitMs, bool withWatches, const std::function<void(std::int64_t)>& advance,
+                     const std::function<std::int64_t()>& now);
+
+  private:
+    struct Item {
+        std::int64_t dueMs;
+        std::uint64_t order;
+        EventSource* source;
+        Handler handler;
+    };
+    struct Choice {
+        Key key;
+        std::shared_ptr<TimerNode> timer;  // empty for an item
+        std::size_t index = 0;             // of the message in messages_
+    };
+
+    std::optional<Choice> choose(std::int64_t limitMs, bool withWatches) const;
+
+    std::deque<Item> outside_;   // by arrival
+    std::deque<Item> messages_;  // by posting; due times never decrease
+    std::vector<std::shared_ptr<TimerNode>> timers_;
+    std::uint64_t lastOrder_ = 0;
+};
+
+}  // namespace quorrin
