@@ -11,8 +11,8 @@ void Clock::block(std::int64_t ms) {
 
 void Clock::yield() {
     collectOutside();
-    const std::int64_t limitMs = nowMs();
-    while (queue_.deliverNext(limitMs, false, [](std::int64_t) {}, [this] { return nowMs(); })) {
+    // A nested handler may block: what fell due meanwhile is due now, too.
+    while (queue_.deliverNext(nowMs(), false, [](std::int64_t) {}, [this] { return nowMs(); })) {
     }
     queueChanged();
 }
