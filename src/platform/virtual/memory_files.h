@@ -1,0 +1,38 @@
+// A file system in memory, for tests. Paths as in the port: absolute, "/" between folders.
+//
+// Writing or copying into a folder that does not exist fails, as on a real disk. A full disk refuses every
+// write and leaves the old content; reading, removing and looking go on. "/" exists from the start.
+#pragma once
+
+#include <map>
+#include <set>
+#include <string>
+
+#include "platform/files.h"
+
+namespace quorrin {
+
+class MemoryFiles : public Files {
+  public:
+    bool fileExists(const std::string& path) override { return files_.count(path) != 0; }
+    bool folderExists(const std::string& path) override;
+    std::optional<std::string> read(const std::string& path) override;
+    bool writeWhole(const std::string& path, const std::string& content) override;
+    bool remove(const std::string& path) override { return files_.erase(path) != 0; }
+    bool createFolder(const std::string& path) override;
+    bool copy(const std::string& from, const std::string& to) override;
+    std::vector<std::string> filesIn(const std::string& folder) override;
+
+    // Puts a file there, folders included, whatever the disk says.
+    void put(const std::string& path, const std::string& content);
+    void setDiskFull(bool full) { full_ = full; }
+
+  private:
+    void makeFolders(const std::string& path);
+
+    std::map<std::string, std::string> files_;
+    std::set<std::string> folders_;
+    bool full_ = false;
+};
+
+}  // namespace quorrin

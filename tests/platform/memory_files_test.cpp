@@ -1,0 +1,63 @@
+#include "platform/virtual/memory_files.h"
+
+#include <gmock/gmock.h>
+
+namespace quorrin {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(MemoryFiles, AWrittenFileReadsBack) {
+    MemoryFiles files;
+    ASSERT_TRUE(files.createFolder("/app/windows"));
+    EXPECT_TRUE(files.writeWhole("/app/windows/a.ini", "[x]\n"));
+    EXPECT_TRUE(files.fileExists("/app/windows/a.ini"));
+    EXPECT_EQ(files.read("/app/windows/a.ini"), "[x]\n");
+    EXPECT_EQ(files.read("/app/windows/b.ini"), std::nullopt);
+}
+
+TEST(MemoryFiles, WritingIntoAMissingFolderFails) {
+    MemoryFiles files;
+    EXPECT_FALSE(files.writeWhole("/nowhere/a", "x"));
+    EXPECT_FALSE(files.fileExists("/nowhere/a"));
+}
+
+TEST(MemoryFiles, CreatingAFolderCreatesThoseAboveIt) {
+    MemoryFiles files;
+    files.createFolder("/a/b/c/");
+    EXPECT_TRUE(files.folderExists("/a"));
+    EXPECT_TRUE(files.folderExists("/a/b"));
+    EXPECT_TRUE(files.folderExists("/a/b/c"));
+    EXPECT_FALSE(files.folderExists("/a/b/c/d"));
+    EXPECT_FALSE(files.fileExists("/a/b"));
+}
+
+TEST(MemoryFiles, AFullDiskRefusesEveryWriteAndKeepsTheOldContent) {
+    MemoryFiles files;
+    files.put("/a/one", "old");
+    files.setDiskFull(true);
+    EXPECT_FALSE(files.writeWhole("/a/one", "new"));
+    EXPECT_FALSE(files.copy("/a/one", "/a/two"));
+    EXPECT_FALSE(files.createFolder("/b"));
+    EXPECT_TRUE(files.createFolder("/a"));
+    EXPECT_EQ(files.read("/a/one"), "old");
+    files.setDiskFull(false);
+    EXPECT_TRUE(files.writeWhole("/a/one", "new"));
+}
+
+TEST(MemoryFiles, CopiesRemovesAndListsByFolder) {
+    MemoryFiles files;
+    files.put("/a/two", "2");
+    files.put("/a/one", "1");
+    files.put("/a/deeper/three", "3");
+    EXPECT_TRUE(files.copy("/a/two", "/a/four"));
+    EXPECT_FALSE(files.copy("/a/none", "/a/five"));
+    EXPECT_THAT(files.filesIn("/a"), ElementsAre("four", "one", "two"));
+    EXPECT_TRUE(files.remove("/a/two"));
+    EXPECT_FALSE(files.remove("/a/two"));
+    EXPECT_THAT(files.filesIn("/a/"), ElementsAre("four", "one"));
+    EXPECT_TRUE(files.filesIn("/none").empty());
+}
+
+}  // namespace
+}  // namespace quorrin
