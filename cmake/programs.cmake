@@ -1,8 +1,13 @@
+# What ./run needs; the target "programs" builds them without the tests.
+add_custom_target(programs)
+
 # quorrin_program(NAME MAIN library...): one short main under src/apps.
 function(quorrin_program name main)
     if(EXISTS ${PROJECT_SOURCE_DIR}/src/apps/${main})
         add_executable(${name} ${PROJECT_SOURCE_DIR}/src/apps/${main})
         target_link_libraries(${name} PRIVATE quorrin_options ${ARGN})
+        add_dependencies(programs ${name})
+        install(TARGETS ${name} RUNTIME DESTINATION bin)
     endif()
 endfunction()
 
