@@ -1,0 +1,68 @@
+// One list names every package; the scripts and the presets take them from there.
+#include <gmock/gmock.h>
+
+#include <array>
+#include <cstdio>
+
+#include "tree/source_text.h"
+
+namespace quorrin::tree {
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+
+struct Outcome {
+    int status = -1;
+    std::string output;
+};
+
+// Both output streams of a command run in the project's root.
+Outcome runCommand(const std::string& command) {
+    Outcome outcome;
+    FILE* pipe = popen(("cd '" QUORRIN_SOURCE_DIR "' && { " + command + "; } 2>&1 < /dev/null").c_str(), "r");
+    if (pipe == nullptr) return outcome;
+    std::array<char, 4096> piece{};
+    while (const std::size_t got = fread(piece.data(), 1, piece.size(), pipe)) {
+        outcome.output.append(piece.data(), got);
+    }
+    outcome.status = pclose(pipe);
+    return outcome;
+}
+
+TEST(Dependencies, TheInstallScriptListsThePackagesOfAGroupWithoutTheirComments) {
+    const Outcome build = runCommand("packaging/install-dependencies --list build");
+    EXPECT_EQ(build.status, 0) << build.output;
+    EXPECT_THAT(linesOf(build.output), Contains("qt6-base-dev"));
+    EXPECT_THAT(linesOf(build.output), testing::Not(Contains("libgtest-dev")));
+    EXPECT_THAT(build.output, testing::Not(HasSubstr("#")));
+}
+
+TEST(Dependencies, AGroupThatIsNotInTheListIsRefusedByName) {
+    const Outcome outcome = runCommand("packaging/install-dependencies --list kitchen");
+    EXPECT_NE(outcome.status, 0);
+    EXPECT_THAT(outcome.output, HasSubstr("no group \"kitchen\""));
+}
+
+TEST(Dependencies, NothingIsAskedForWhereEverythingIsInstalled) {
+    const Outcome outcome = runCommand("packaging/install-dependencies build test");
+    EXPECT_EQ(outcome.status, 0) << outcome.output;
+    EXPECT_EQ(outcome.output, "");
+}
+
+TEST(Dependencies, NoPackageIsNamedTwice) {
+    auto packages = linesOf(runCommand("packaging/install-dependencies --list").output);
+    EXPECT_GT(packages.size(), 10U);
+    std::sort(packages.begin(), packages.end());
+    EXPECT_EQ(std::adjacent_find(packages.begin(), packages.end()), packages.end());
+}
+
+TEST(Dependencies, EveryScriptIsSoundBash) {
+    for (const char* script : {"run", "test", ".ci/run", "packaging/install-dependencies"}) {
+        const Outcome outcome = runCommand(std::string("bash -n ") + script);
+        EXPECT_EQ(outcome.status, 0) << script << ": " << outcome.output;
+    }
+}
+
+}  // namespace
+}  // namespace quorrin::tree
