@@ -1,9 +1,9 @@
 // One list names every package; the scripts and the presets take them from there.
 #include <gmock/gmock.h>
 
-#include <array>
-#include <cstdio>
+#include <algorithm>
 
+#include "tree/command.h"
 #include "tree/source_text.h"
 
 namespace quorrin::tree {
@@ -11,24 +11,6 @@ namespace {
 
 using testing::Contains;
 using testing::HasSubstr;
-
-struct Outcome {
-    int status = -1;
-    std::string output;
-};
-
-// Both output streams of a command run in the project's root.
-Outcome runCommand(const std::string& command) {
-    Outcome outcome;
-    FILE* pipe = popen(("cd '" QUORRIN_SOURCE_DIR "' && { " + command + "; } 2>&1 < /dev/null").c_str(), "r");
-    if (pipe == nullptr) return outcome;
-    std::array<char, 4096> piece{};
-    while (const std::size_t got = fread(piece.data(), 1, piece.size(), pipe)) {
-        outcome.output.append(piece.data(), got);
-    }
-    outcome.status = pclose(pipe);
-    return outcome;
-}
 
 TEST(Dependencies, TheInstallScriptListsThePackagesOfAGroupWithoutTheirComments) {
     const Outcome build = runCommand("packaging/install-dependencies --list build");
@@ -58,7 +40,7 @@ TEST(Dependencies, NoPackageIsNamedTwice) {
 }
 
 TEST(Dependencies, EveryScriptIsSoundBash) {
-    for (const char* script : {"run", "test", ".ci/run", "packaging/install-dependencies"}) {
+    for (const char* script : {"run", "test", ".ci/run", "packaging/install-dependencies", "tools/lint"}) {
         const Outcome outcome = runCommand(std::string("bash -n ") + script);
         EXPECT_EQ(outcome.status, 0) << script << ": " << outcome.output;
     }
