@@ -21,7 +21,8 @@ class CheckedInt {
   public:
     constexpr CheckedInt() = default;
     template <typename T, typename = std::enable_if_t<std::is_integral_v<T> && !std::is_same_v<T, bool>>>
-    constexpr CheckedInt(T value) : value_(fit(static_cast<std::int64_t>(value))) {}  // NOLINT: implicit by design
+    constexpr CheckedInt(T value)
+        : value_(fit(static_cast<std::int64_t>(value))) {}  // NOLINT: implicit by design
     template <typename Other>
     constexpr explicit CheckedInt(CheckedInt<Other> other) : value_(fit(other.value())) {}
 
@@ -34,9 +35,15 @@ class CheckedInt {
     constexpr CheckedInt& operator--() { return *this -= CheckedInt(1); }
     constexpr CheckedInt operator-() const { return CheckedInt(-static_cast<std::int64_t>(value_)); }
 
-    friend constexpr CheckedInt operator+(CheckedInt a, CheckedInt b) { return CheckedInt(wide(a) + wide(b)); }
-    friend constexpr CheckedInt operator-(CheckedInt a, CheckedInt b) { return CheckedInt(wide(a) - wide(b)); }
-    friend constexpr CheckedInt operator*(CheckedInt a, CheckedInt b) { return CheckedInt(wide(a) * wide(b)); }
+    friend constexpr CheckedInt operator+(CheckedInt a, CheckedInt b) {
+        return CheckedInt(wide(a) + wide(b));
+    }
+    friend constexpr CheckedInt operator-(CheckedInt a, CheckedInt b) {
+        return CheckedInt(wide(a) - wide(b));
+    }
+    friend constexpr CheckedInt operator*(CheckedInt a, CheckedInt b) {
+        return CheckedInt(wide(a) * wide(b));
+    }
     friend constexpr CheckedInt operator+(CheckedInt a, int b) { return a + CheckedInt(b); }
     friend constexpr CheckedInt operator-(CheckedInt a, int b) { return a - CheckedInt(b); }
     friend constexpr CheckedInt operator*(CheckedInt a, int b) { return a * CheckedInt(b); }

@@ -2,7 +2,8 @@
 //
 // Change events run inside the write, and only when the value differs. set...() is the program's write,
 // operator...() what a person does: the latter does nothing on a control that is not usable (disabled, or its
-// form not shown), the former always works. A click called by the program runs the handler whatever the state.
+// form not shown), the former always works. A click called by the program runs the handler whatever the
+// state.
 #pragma once
 
 #include <array>
@@ -250,7 +251,8 @@ class Timer : public Control {
 // One key of a toolbar; its name is "toolbar.Key".
 using ToolbarKey = CommandButton;
 
-// `count` controls that share a name and differ by index, starting with `first`: name(first), name(first+1)...
+// `count` controls that share a name and differ by index, starting with `first`: name(first),
+// name(first+1)...
 template <typename T, std::size_t count>
 class ControlArray {
   public:

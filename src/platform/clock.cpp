@@ -12,7 +12,8 @@ void Clock::block(std::int64_t ms) {
 void Clock::yield() {
     collectOutside();
     // A nested handler may block: what fell due meanwhile is due now, too.
-    while (queue_.deliverNext(nowMs(), false, [](std::int64_t) {}, [this] { return nowMs(); })) {
+    while (queue_.deliverNext(
+        nowMs(), false, [](std::int64_t) {}, [this] { return nowMs(); })) {
     }
     queueChanged();
 }

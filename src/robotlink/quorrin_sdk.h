@@ -57,7 +57,8 @@ struct LinkProperties {
     Integer Battery2TempAdc;
     Integer ChargerStatusByte;
     Integer ChargerFlagsByte;
-    // SoundFrame: a handle that the link resolves to bytes, valid until the next frame, and the length in bytes
+    // SoundFrame: a handle that the link resolves to bytes, valid until the next frame, and the length in
+    // bytes
     Long SoundBufferAddress;
     Long SoundBufferLength;
 

@@ -6,7 +6,7 @@
 namespace quorrin {
 
 struct DriveValues {
-    double wheelCmdLeft = 0;   // last commanded wheel velocities, counts per second, mirrored sign in place
+    double wheelCmdLeft = 0;  // last commanded wheel velocities, counts per second, mirrored sign in place
     double wheelCmdRight = 0;
     bool vfhActive = false;     // the heading search runs
     bool reverseDrive = false;  // tail first

@@ -8,7 +8,8 @@
 namespace quorrin {
 
 struct LampControls {
-    explicit LampControls(Form& form) : shpBatteryStatus(form, "shpBatteryStatus", 0, GeneralConstants::kGreen) {}
+    explicit LampControls(Form& form)
+        : shpBatteryStatus(form, "shpBatteryStatus", 0, GeneralConstants::kGreen) {}
 
     ControlArray<Shape, 7> shpBatteryStatus;
 };

@@ -13,8 +13,8 @@ struct PowerValues {
     double dcInVolts = 0;
     double battery1Temp = 0;
     double battery2Temp = 0;
-    Integer chargerStatus;  // low byte of the charger's status
-    Integer chargerFlags;   // low byte of the charger's flags
+    Integer chargerStatus;       // low byte of the charger's status
+    Integer chargerFlags;        // low byte of the charger's flags
     bool chargeFlash = false;    // indicator 3 blinks
     bool battery1Flash = false;  // indicator 0 blinks
     bool battery2Flash = false;  // indicator 1 blinks

@@ -19,14 +19,14 @@ struct SensorValues {
     std::array<Integer, 3> humanRaw{};  // 1 and 2 are used
     std::array<bool, 3> humanFlags{};   // 1 and 2 are used
     Integer humanLocation;              // 1 to 4
-    Integer encoderLeft;   // counts, wrapping at 32767
+    Integer encoderLeft;                // counts, wrapping at 32767
     Integer encoderRight;
-    double wheelSpeedLeft = 0;   // encoder units per second
+    double wheelSpeedLeft = 0;  // encoder units per second
     double wheelSpeedRight = 0;
     double motorCurrentLeft = 0;  // amperes
     double motorCurrentRight = 0;
     bool encoderDataValid = false;  // the first motion frame has arrived
-    double motorHeatLeft = 0;   // running load estimates
+    double motorHeatLeft = 0;       // running load estimates
     double motorHeatRight = 0;
     bool motionInhibit = false;  // a drive is overloaded; no velocity commands are sent
 };

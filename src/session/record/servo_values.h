@@ -11,12 +11,12 @@ struct ServoValues {
     Integer mouthCmd;
     Integer eyeUpDownInit;
     Integer eyeLeftRightInit;
-    Integer servoOut1;  // head up/down
-    Integer servoOut2;  // head left/right
-    Integer servoOut3;  // mouth
-    Integer servoOut4;  // spare
-    Integer servoOut5;  // eyes up/down
-    Integer servoOut6;  // eyes left/right
+    Integer servoOut1;   // head up/down
+    Integer servoOut2;   // head left/right
+    Integer servoOut3;   // mouth
+    Integer servoOut4;   // spare
+    Integer servoOut5;   // eyes up/down
+    Integer servoOut6;   // eyes left/right
     Integer mouthSteps;  // remaining mouth flaps
 };
 
