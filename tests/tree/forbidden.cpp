@@ -16,7 +16,7 @@ const std::string kHostWords =
     R"(\b(std::(chrono|j?thread|mutex|async|filesystem|this_thread)|sleep_for|sleep_until|usleep|nanosleep)"
     R"(|clock_gettime|gettimeofday|localtime(_r)?|gmtime(_r)?|(steady|system|high_resolution)_clock)"
     R"(|QThread|QElapsedTimer|QTcpSocket|QTcpServer|QUdpSocket|QLocalSocket|QLocalServer|QProcess|QDateTime|QFile)\b)"
-    R"(|\b(sleep|fork|pthread_create|setsockopt)\s*\(|::(socket|connect|bind|listen|time|open|poll)\s*\()";
+    R"(|\b(sleep|fork|pthread_create|setsockopt)\s*\(|(^|[^A-Za-z0-9_>])::(socket|connect|bind|listen|time|open|poll)\s*\()";
 const std::string kQtTimers = R"(\b(QTimer|QBasicTimer|startTimer)\b)";
 
 std::vector<std::string> hostCallsBut(const std::string& source, const std::string& words) {

@@ -16,8 +16,9 @@ TEST(Forbidden, FindsRealClocksSleepsSocketsThreadsAndFiles) {
          {"#include <chrono>", "#include <thread>", "#include <filesystem>", "#include <sys/socket.h>",
           "#include <unistd.h>", "auto t = std::chrono::steady_clock::now();", "std::thread worker(run);",
           "usleep(10);", "sleep(1);", "int fd = ::socket(AF_INET, SOCK_STREAM, 0);", "QTimer timer;",
-          "QTcpSocket socket;", "QElapsedTimer t;", "std::mutex m;", "auto now = ::time(nullptr);",
-          "std::filesystem::path p;", "clock_gettime(CLOCK_MONOTONIC, &ts);", "startTimer(10);"}) {
+          "QTcpSocket socket;", "return ::connect(fd, to, size);", "QElapsedTimer t;", "std::mutex m;",
+          "auto now = ::time(nullptr);", "std::filesystem::path p;", "clock_gettime(CLOCK_MONOTONIC, &ts);",
+          "startTimer(10);"}) {
         EXPECT_THAT(hostCalls(planted), Not(IsEmpty())) << planted;
     }
 }
@@ -25,7 +26,8 @@ TEST(Forbidden, FindsRealClocksSleepsSocketsThreadsAndFiles) {
 TEST(Forbidden, LeavesThePortsAndPlainWordsAlone) {
     for (const char* allowed :
          {"#include <vector>", "clock_.block(200);", "// a sleep() of 200 ms", "TimerMM tmrControl;",
-          "text = \"std::thread\";", "connect(client);", "bool asleep(int x);", "station.listen(7060);"}) {
+          "text = \"std::thread\";", "connect(client);", "bool asleep(int x);",
+          "void Network::listen(int port);", "station.listen(7060);"}) {
         EXPECT_THAT(hostCalls(allowed), IsEmpty()) << allowed;
     }
 }

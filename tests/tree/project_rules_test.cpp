@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "tree/command.h"
 #include "tree/forbidden.h"
 #include "tree/layers.h"
 #include "tree/source_text.h"
@@ -82,6 +83,11 @@ TEST(ProjectRules, HalfTheFilesStayUnder120LinesAndNearlyAllUnder300) {
     const auto longOnes = counts.end() - std::upper_bound(counts.begin(), counts.end(), 300U);
     EXPECT_LE(longOnes * 20, static_cast<std::ptrdiff_t>(counts.size()))
         << longOnes << " of " << counts.size();
+}
+
+TEST(ProjectRules, TheCodeIsFormatted) {
+    const Outcome outcome = runCommand("tools/lint");
+    EXPECT_EQ(outcome.status, 0) << outcome.output;
 }
 
 TEST(ProjectRules, EveryShippedJsonFileParses) {
