@@ -1,0 +1,68 @@
+// One whole station, composed: the shared record, the forms, and what binds them together.
+//
+// Everything that belongs to a station is owned here; there are no globals, and a process can hold many. What
+// it asks of its host comes in through the ports, which must outlive it. Not here: windows, sockets, real
+// time.
+//
+// endProgram is called when the program is to end, and should not return; if it does, ProgramEnd is thrown,
+// so that nothing of the session runs on. A ProgramError that a handler lets out is for whoever delivers
+// events.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "console/frm_control_panel.h"
+#include "console/frm_gui.h"
+#include "console/frm_login.h"
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/message_box.h"
+#include "platform/programs.h"
+#include "robotlink/quorrin_sdk.h"
+#include "session/record/public_values.h"
+
+namespace quorrin {
+
+class speedP2PVFH;
+
+struct StationPorts {
+    Clock& clock;
+    Files& files;
+    Programs& programs;
+    MessageBoxes& boxes;
+    QuorrinSDK& myRobot;
+    QuorrinSDK& robotTI;
+    Folders folders;
+    std::function<void()> endProgram;
+};
+
+class Station {
+  public:
+    explicit Station(const StationPorts& ports);
+    ~Station();
+
+    PublicValues values;
+    frmLogin login;
+    frmGUI gui;
+    frmControlPanel controlPanel;
+
+    // Begins with the login form, or as if the login had just handed over with the stored (or default)
+    // address. The main form's load blocks a second.
+    void startAtLogin();
+    void startAtMainForm();
+
+    // All forms, the main form first.
+    std::vector<Form*> forms();
+    // The driver's navigator; null before the main form has loaded and after shutdown.
+    const speedP2PVFH* navigator() const;
+
+  private:
+    struct Parts;
+    StationPorts ports_;
+    std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace quorrin
