@@ -14,18 +14,19 @@ struct CameraControls {
           Label8(form, "Label8"),
           Label9(form, "Label9"),
           cmdTakePhoto(form, "cmdTakePhoto", "Take Photo"),
-          cmdZoomCamera(form, "cmdZoomCamera") sldImageQuality.largeChange = 5;
-    picTest.setVisible(false);
-}
+          cmdZoomCamera(form, "cmdZoomCamera") {
+        sldImageQuality.largeChange = 5;
+        picTest.setVisible(false);
+    }
 
-Picture imgCamera;
-Picture picTest;         // only carries a frame into a bitmap
-Slider sldImageQuality;  // per cent
-Label lblImageQuality;
-Label Label8;
-Label Label9;
-CommandButton cmdTakePhoto;
-CommandButton cmdZoomCamera;
+    Picture imgCamera;
+    Picture picTest;         // only carries a frame into a bitmap
+    Slider sldImageQuality;  // per cent
+    Label lblImageQuality;
+    Label Label8;
+    Label Label9;
+    CommandButton cmdTakePhoto;
+    CommandButton cmdZoomCamera;
 };
 
 }  // namespace quorrin
