@@ -31,7 +31,8 @@ void noteFrame(LinkValues& link) {
 
 void countFrame(Label& label) {
     const Integer count = numberToInteger(label.caption());
-    label.setCaption(std::to_string(count > kLastFrameCount ? 0 : count + 1));
+    const Integer next = count > kLastFrameCount ? Integer(0) : count + 1;
+    label.setCaption(std::to_string(next.value()));
 }
 
 void storeIrRange(SensorValues& sensors, std::size_t element, Integer adc) {

@@ -86,9 +86,8 @@ TEST_F(MotionIntake, KeepsTheOldRangeWhenTheNewOneIsTooSmall) {
 TEST_F(MotionIntake, DoesNotStoreARangeOfExactly23Centimetres) {
     sensors.irRange[0] = 1.5;
     robot.IrAdc0 = kNear;
-    sensors.irRadius[0] = 0.23 - 0.09;
-    ASSERT_DOUBLE_EQ(irRangeFromAdc(kNear) + sensors.irRadius[0], 0.23);
-    sensors.irRadius[0] = 0.23 - irRangeFromAdc(kNear);
+    sensors.irRadius[0] = 0.14;
+    ASSERT_EQ(irRangeFromAdc(kNear) + sensors.irRadius[0], 0.23);
     sensorFrame();
     EXPECT_DOUBLE_EQ(sensors.irRange[0], 1.5);
     sensors.irRadius[0] += 1e-6;
