@@ -24,6 +24,15 @@ void Form::activate() {
     if (shown_ && onActivate) onActivate();
 }
 
+void Form::operatorClose() {
+    if (!shown_) return;
+    if (onClose) {
+        onClose();
+    } else {
+        hide();
+    }
+}
+
 Control* Form::find(std::string_view controlName) const {
     const auto found = byName_.find(controlName);
     return found == byName_.end() ? nullptr : found->second;

@@ -33,6 +33,8 @@ class Form {
     void hide();
     // The form's window became the active one. Does nothing while the form is not shown.
     void activate();
+    // The operator closes the form's window. Does nothing while the form is not shown.
+    void operatorClose();
 
     // The control of that name, or null.
     Control* find(std::string_view controlName) const;
@@ -45,6 +47,9 @@ class Form {
     // has it already. A control's leave handler may keep the focus by calling stayFocused().
     void moveFocus(Control& control);
     void stayFocused() { stay_ = true; }
+
+    // What the form does when its window is closed; set by the form's logic. Without one the form is hidden.
+    std::function<void()> onClose;
 
     // Hooks of a view; run after the change.
     std::function<void()> onShownChanged;

@@ -25,4 +25,16 @@ const speedP2PVFH* Station::navigator() const {
     return nullptr;
 }
 
+const GPS* Station::gps() const {
+    return nullptr;
+}
+
+const SensorMapBuilder* Station::sensorMap() const {
+    return nullptr;
+}
+
+const AntiStuck* Station::antiStuck() const {
+    return nullptr;
+}
+
 }  // namespace quorrin

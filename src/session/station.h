@@ -26,6 +26,9 @@
 
 namespace quorrin {
 
+class AntiStuck;
+class GPS;
+class SensorMapBuilder;
 class speedP2PVFH;
 
 struct StationPorts {
@@ -58,6 +61,10 @@ class Station {
     std::vector<Form*> forms();
     // The driver's navigator; null before the main form has loaded and after shutdown.
     const speedP2PVFH* navigator() const;
+    // The tasks that the main form's load builds; null before it and after shutdown.
+    const GPS* gps() const;
+    const SensorMapBuilder* sensorMap() const;
+    const AntiStuck* antiStuck() const;
 
   private:
     struct Parts;
