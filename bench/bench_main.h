@@ -1,7 +1,7 @@
 // The main of a program of Google Benchmarks: as the library prints it or, with --json, a figure a line.
 //
-// A benchmark's value is its time an iteration; its counter "baseline" (same unit), if it sets one, becomes the
-// figure's baseline. A benchmark that reports an error makes the status 1.
+// A benchmark's value is its time an iteration; its counter "baseline" (same unit), if it sets one, becomes
+// the figure's baseline. A benchmark that reports an error makes the status 1.
 #pragma once
 
 #include <benchmark/benchmark.h>
