@@ -1,0 +1,24 @@
+// The files of a POSIX machine.
+//
+// writeWhole() writes a temporary file in the same folder, brings it to the disk, renames it over the old one
+// and brings the folder to the disk: a crash or a full disk leaves the old content or the new one. A link is
+// written through, the old file's permissions stay. Folders that it creates are the user's own (0700).
+#pragma once
+
+#include "platform/files.h"
+
+namespace quorrin {
+
+class PosixFiles : public Files {
+  public:
+    bool fileExists(const std::string& path) override;
+    bool folderExists(const std::string& path) override;
+    std::optional<std::string> read(const std::string& path) override;
+    bool writeWhole(const std::string& path, const std::string& content) override;
+    bool remove(const std::string& path) override;
+    bool createFolder(const std::string& path) override;
+    bool copy(const std::string& from, const std::string& to) override;
+    std::vector<std::string> filesIn(const std::string& folder) override;
+};
+
+}  // namespace quorrin
