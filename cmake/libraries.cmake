@@ -36,6 +36,8 @@ quorrin_library(quorrin_station
 quorrin_library(quorrin_host FOLDERS platform/host LINK quorrin_base)
 quorrin_library(quorrin_virtual FOLDERS platform/virtual LINK quorrin_base)
 quorrin_library(quorrin_qt FOLDERS platform/qt LINK quorrin_host quorrin_base Qt6::Core Qt6::Network)
+# "signals", "slots" and "emit" stay ordinary words.
+target_compile_definitions(quorrin_qt PUBLIC QT_NO_KEYWORDS)
 
 quorrin_library(quorrin_gateway FOLDERS gateway LINK quorrin_wire)
 quorrin_library(quorrin_robot FOLDERS robot LINK quorrin_station quorrin_wire box2d::box2d nlohmann_json::nlohmann_json)
