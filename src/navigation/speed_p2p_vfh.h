@@ -79,6 +79,7 @@ class speedP2PVFH {
     bool heldByLandmarks() const;
     void forget();
     bool searchDetour();
+    void chooseSpeeds(bool noWay);
     void command();
     void arrive();
     void finish();
