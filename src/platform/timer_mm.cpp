@@ -6,7 +6,7 @@ namespace quorrin {
 
 TimerMM::TimerMM(Clock& clock, std::function<void()> handler, EventQueue::Kind kind)
     : clock_(clock), node_(std::make_shared<EventQueue::TimerNode>()) {
-    node_->handler = std::move(handler);
+    setHandler(std::move(handler));
     node_->kind = kind;
     clock_.queue_.addTimer(node_);
 }
@@ -14,6 +14,10 @@ TimerMM::TimerMM(Clock& clock, std::function<void()> handler, EventQueue::Kind k
 TimerMM::~TimerMM() {
     node_->enabled = false;
     clock_.queue_.removeTimer(node_);
+}
+
+void TimerMM::setHandler(std::function<void()> handler) {
+    node_->handler = std::make_shared<const EventQueue::Handler>(std::move(handler));
 }
 
 void TimerMM::setEnabled(bool enabled) {

@@ -23,7 +23,7 @@ class TimerMM {
     TimerMM(const TimerMM&) = delete;
     TimerMM& operator=(const TimerMM&) = delete;
 
-    void setHandler(std::function<void()> handler) { node_->handler = std::move(handler); }
+    void setHandler(std::function<void()> handler);
 
     bool enabled() const { return node_->enabled; }
     void setEnabled(bool enabled);
