@@ -9,6 +9,7 @@
 
 #include "platform/files.h"
 #include "robot/geometry.h"
+#include "robot/site_error.h"
 
 namespace quorrin {
 

@@ -2,7 +2,7 @@
 
 #include <cctype>
 
-#include "robot/strict_json.h"
+#include "robot/site_error.h"
 
 namespace quorrin {
 

@@ -7,18 +7,13 @@
 
 #include <nlohmann/json.hpp>
 #include <set>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "robot/geometry.h"
+#include "robot/site_error.h"
 
 namespace quorrin {
-
-class SiteError : public std::runtime_error {
-  public:
-    explicit SiteError(const std::string& what) : std::runtime_error(what) {}
-};
 
 class StrictObject {
   public:

@@ -1,12 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
 #include "platform/virtual/memory_files.h"
 #include "robot/site.h"
-#include "robot/strict_json.h"
+#include "support/robot_room.h"
 
 namespace quorrin {
 namespace {
@@ -29,18 +26,11 @@ std::string errorOf(const std::string& text) {
     return "";
 }
 
-std::string shipped(const std::string& name) {
-    std::ifstream in(std::string(QUORRIN_SOURCE_DIR) + "/share/sites/" + name + ".json");
-    std::stringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
 class ShippedSite : public testing::TestWithParam<const char*> {};
 
 TEST_P(ShippedSite, LoadsUnderItsNameAndHasADock) {
     MemoryFiles files;
-    files.put(std::string("/sites/") + GetParam() + ".json", shipped(GetParam()));
+    files.put(std::string("/sites/") + GetParam() + ".json", shippedSiteText(GetParam()));
     const Site site = loadSite(GetParam(), "/sites", files);
     EXPECT_EQ(site.name, GetParam());
     EXPECT_TRUE(site.hasDock);
@@ -48,7 +38,7 @@ TEST_P(ShippedSite, LoadsUnderItsNameAndHasADock) {
 }
 
 TEST_P(ShippedSite, LetsTheRobotReachPointsAtMostSevenAndAHalfMetresApart) {
-    const Extent extent = reachableExtent(parse(shipped(GetParam())));
+    const Extent extent = reachableExtent(parse(shippedSiteText(GetParam())));
     EXPECT_TRUE(extent.closed);
     EXPECT_LE(extent.high.x - extent.low.x, 7.5);
     EXPECT_LE(extent.high.y - extent.low.y, 7.5);
@@ -56,7 +46,7 @@ TEST_P(ShippedSite, LetsTheRobotReachPointsAtMostSevenAndAHalfMetresApart) {
 }
 
 TEST_P(ShippedSite, HasADockWhereTheRobotFits) {
-    const Site site = parse(shipped(GetParam()));
+    const Site site = parse(shippedSiteText(GetParam()));
     for (const Segment& segment : fixedSegments(site))
         EXPECT_GE(distanceToSegment(site.dock.pose.at, segment), kRobotRadius_m);
 }

@@ -1,5 +1,0 @@
-#include "apps/gateway_program.h"
-
-int main(int argc, char** argv) {
-    return quorrin::runGateway(quorrin::kMultimediaGateway, argc, argv);
-}
