@@ -138,10 +138,14 @@ void OptionButton::operatorChoose() {
 }
 
 Slider::Slider(Form& form, std::string name, std::int32_t minimum, std::int32_t maximum, std::int32_t value)
-    : Control(form, std::move(name)), minimum_(minimum), maximum_(maximum), value_(value) {}
+    : Control(form, std::move(name)), minimum_(minimum), maximum_(maximum), value_(within(value)) {}
+
+std::int32_t Slider::within(std::int32_t value) const {
+    return std::max(minimum_, std::min(maximum_, value));
+}
 
 void Slider::setValue(std::int32_t value) {
-    value = std::max(minimum_, std::min(maximum_, value));
+    value = within(value);
     if (value == value_) return;
     value_ = value;
     looks();
@@ -152,6 +156,7 @@ void Slider::setRange(std::int32_t minimum, std::int32_t maximum) {
     minimum_ = minimum;
     maximum_ = maximum;
     looks();
+    setValue(value_);
 }
 
 void Slider::operatorMove(std::int32_t value) {
@@ -193,6 +198,12 @@ ListBox::ListBox(Form& form, std::string name) : Control(form, std::move(name)) 
 void ListBox::add(std::string line, int itemData) {
     lines_.emplace_back(std::move(line), itemData);
     looks();
+}
+
+const ListBox::Line& ListBox::at(std::size_t index) const {
+    if (index >= lines_.size())
+        throw ProgramError("list " + name() + " has no line " + std::to_string(index));
+    return lines_[index];
 }
 
 void ListBox::remove(std::size_t index) {

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "base/form.h"
+#include "base/program_error.h"
 #include "platform/timer_mm.h"
 
 namespace quorrin {
@@ -141,6 +142,7 @@ class Slider : public Control {
     void setValue(std::int32_t value);
     std::int32_t minimum() const { return minimum_; }
     std::int32_t maximum() const { return maximum_; }
+    // A value that is outside the new limits follows them.
     void setRange(std::int32_t minimum, std::int32_t maximum);
     std::int32_t smallChange = 1;
     std::int32_t largeChange = 1;
@@ -149,6 +151,8 @@ class Slider : public Control {
     std::function<void()> onChange;
 
   private:
+    std::int32_t within(std::int32_t value) const;
+
     std::int32_t minimum_;
     std::int32_t maximum_;
     std::int32_t value_;
@@ -179,15 +183,19 @@ class ListBox : public Control {
   public:
     ListBox(Form& form, std::string name);
     std::size_t count() const { return lines_.size(); }
-    const std::string& line(std::size_t index) const { return lines_.at(index).first; }
-    int itemData(std::size_t index) const { return lines_.at(index).second; }
+    // A line that is not there is a ProgramError.
+    const std::string& line(std::size_t index) const { return at(index).first; }
+    int itemData(std::size_t index) const { return at(index).second; }
     void add(std::string line, int itemData);
     void remove(std::size_t index);
     // The lines, joined by line feeds.
     std::string valueText() const override;
 
   private:
-    std::vector<std::pair<std::string, int>> lines_;
+    using Line = std::pair<std::string, int>;
+    const Line& at(std::size_t index) const;
+
+    std::vector<Line> lines_;
 };
 
 // A coloured lamp.
@@ -263,12 +271,19 @@ class ControlArray {
             elements_[i] = std::make_unique<T>(form, name + "(" + std::to_string(index) + ")", args...);
         }
     }
-    T& operator()(int index) { return *elements_.at(static_cast<std::size_t>(index - first_)); }
-    const T& operator()(int index) const { return *elements_.at(static_cast<std::size_t>(index - first_)); }
+    // An element that is not there is a ProgramError.
+    T& operator()(int index) { return *elements_[place(index)]; }
+    const T& operator()(int index) const { return *elements_[place(index)]; }
     int first() const { return first_; }
     int last() const { return first_ + static_cast<int>(count) - 1; }
 
   private:
+    std::size_t place(int index) const {
+        if (index < first() || index > last())
+            throw ProgramError("no control element " + std::to_string(index));
+        return static_cast<std::size_t>(index - first_);
+    }
+
     int first_;
     std::array<std::unique_ptr<T>, count> elements_;
 };

@@ -43,7 +43,8 @@ void Form::moveFocus(Control& control) {
     if (Control* leaving = std::exchange(focused_, nullptr); leaving != nullptr) {
         stay_ = false;
         if (leaving->onLostFocus) leaving->onLostFocus();
-        // The leave handler itself may have moved the focus, or asked to keep it.
+        // The leave handler may have moved the focus itself: then that move stands and this one is over.
+        if (focused_ != nullptr) return;
         if (std::exchange(stay_, false)) {
             focused_ = leaving;
             if (onFocusMoved) onFocusMoved();

@@ -44,7 +44,8 @@ class Form {
     // The control that has the focus, or null.
     Control* focused() const { return focused_; }
     // Moves the focus: the box that had it is left first, then the new one gets it. No effect when `control`
-    // has it already. A control's leave handler may keep the focus by calling stayFocused().
+    // has it already. A control's leave handler may keep the focus by calling stayFocused(), or move it
+    // itself: then its own move stands.
     void moveFocus(Control& control);
     void stayFocused() { stay_ = true; }
 

@@ -25,7 +25,10 @@ std::string_view trimmed(std::string_view text) {
 
 std::optional<double> parseNumber(std::string_view text) {
     text = trimmed(text);
-    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+    if (!text.empty() && text.front() == '+') {
+        text.remove_prefix(1);
+        if (!text.empty() && text.front() == '-') return std::nullopt;
+    }
     if (text.empty() ||
         !(text.front() == '-' || text.front() == '.' || (text.front() >= '0' && text.front() <= '9')))
         return std::nullopt;
@@ -75,8 +78,13 @@ std::string formatFixed(double value, int decimals) {
 }
 
 std::string formatShortest(double value) {
+    if (value == 0) return "0";  // also the negative zero
     char text[40];
-    const auto result = std::to_chars(text, text + sizeof text, value);
+    const double size = std::fabs(value);
+    // Left to itself the library writes 100000 as "1e+05", which is shorter.
+    const bool plain = size >= 1e-5 && size < 1e15;
+    const auto result = plain ? std::to_chars(text, text + sizeof text, value, std::chars_format::fixed)
+                              : std::to_chars(text, text + sizeof text, value);
     return {text, result.ptr};
 }
 

@@ -26,7 +26,8 @@ Integer numberToInteger(std::string_view text);
 Long numberToLong(std::string_view text);
 
 std::string formatFixed(double value, int decimals);
-// The shortest text that reads back to the same double; whole values print without a point.
+// The shortest text that reads back to the same double; whole values print without a point, and sizes from
+// 1e-5 to below 1e15 without an exponent.
 std::string formatShortest(double value);
 // "True" or "False".
 std::string booleanText(bool value);

@@ -13,7 +13,7 @@ void Clock::yield() {
     collectOutside();
     // A nested handler may block: what fell due meanwhile is due now, too.
     while (queue_.deliverNext(
-        nowMs(), false, [](std::int64_t) {}, [this] { return nowMs(); })) {
+        nowMs(), false, [this](std::int64_t) { delivering(); }, [this] { return nowMs(); })) {
     }
     queueChanged();
 }

@@ -48,6 +48,8 @@ class Clock {
     virtual void queueChanged() {}
     // Lets the machine hand over what has arrived, before a yield delivers.
     virtual void collectOutside() {}
+    // A yield is about to deliver one event; a virtual clock counts them to catch endless loops.
+    virtual void delivering() {}
 
     EventQueue queue_;
 

@@ -10,17 +10,13 @@ namespace {
 
 class RunningMark {
   public:
-    explicit RunningMark(bool* flag) : flag_(flag) {
-        if (flag_ != nullptr) *flag_ = true;
-    }
-    ~RunningMark() {
-        if (flag_ != nullptr) *flag_ = false;
-    }
+    explicit RunningMark(bool& flag) : flag_(flag) { flag_ = true; }
+    ~RunningMark() { flag_ = false; }
     RunningMark(const RunningMark&) = delete;
     RunningMark& operator=(const RunningMark&) = delete;
 
   private:
-    bool* flag_;
+    bool& flag_;
 };
 
 std::int64_t nextOnGrid(std::int64_t dueMs, std::int64_t intervalMs, std::int64_t nowMs) {
@@ -31,12 +27,20 @@ std::int64_t nextOnGrid(std::int64_t dueMs, std::int64_t intervalMs, std::int64_
 
 }  // namespace
 
+EventQueue::Item EventQueue::itemFor(std::int64_t dueMs, std::uint64_t order, EventSource* source,
+                                     Handler handler) {
+    return {dueMs, order, source != nullptr ? source->state_ : nullptr, std::move(handler)};
+}
+
 void EventQueue::addOutside(std::int64_t dueMs, EventSource* source, Handler handler) {
-    outside_.push_back(Item{dueMs, ++lastOrder_, source, std::move(handler)});
+    // An event may be announced for later: what comes before it must not stand behind it.
+    const auto later = std::find_if(outside_.rbegin(), outside_.rend(),
+                                    [dueMs](const Item& item) { return item.dueMs <= dueMs; });
+    outside_.insert(later.base(), itemFor(dueMs, ++lastOrder_, source, std::move(handler)));
 }
 
 void EventQueue::addMessage(std::int64_t dueMs, EventSource* source, Handler handler) {
-    messages_.push_back(Item{dueMs, ++lastOrder_, source, std::move(handler)});
+    messages_.push_back(itemFor(dueMs, ++lastOrder_, source, std::move(handler)));
 }
 
 void EventQueue::addTimer(const std::shared_ptr<TimerNode>& node) {
@@ -54,20 +58,19 @@ std::optional<EventQueue::Choice> EventQueue::choose(std::int64_t limitMs, bool 
     // Only the first outside event can be delivered: one that waits holds back those behind it.
     if (!outside_.empty()) {
         const Item& item = outside_.front();
-        const bool waits = item.source != nullptr && item.source->running_;
         const Key key{item.dueMs, Kind::outside, item.order};
-        if (!waits && offer(key)) best = Choice{key, nullptr, 0};
+        if (!item.waits() && offer(key)) best = Choice{key, nullptr, 0};
     }
     for (std::size_t i = 0; i < messages_.size(); ++i) {
         const Item& item = messages_[i];
-        if (item.source != nullptr && item.source->running_) continue;
+        if (item.waits()) continue;
         const Key key{item.dueMs, Kind::message, item.order};
         if (offer(key)) best = Choice{key, nullptr, i};
         break;
     }
     const std::shared_ptr<TimerNode>* chosen = nullptr;
     for (const auto& timer : timers_) {
-        if (!timer->enabled || timer->intervalMs <= 0 || timer->source.running_) continue;
+        if (!timer->enabled || timer->intervalMs <= 0 || timer->source.running()) continue;
         if (timer->kind == Kind::watch && !withWatches) continue;
         const Key key{timer->dueMs, timer->kind, timer->order};
         if (offer(key)) {
@@ -99,8 +102,9 @@ bool EventQueue::deliverNext(std::int64_t limitMs, bool withWatches,
         } else {
             timer->enabled = false;
         }
-        const RunningMark mark(&timer->source.running_);
-        if (timer->handler) timer->handler();
+        const RunningMark mark(timer->source.state_->running);
+        const std::shared_ptr<const Handler> handler = timer->handler;
+        if (handler && *handler) (*handler)();
         return true;
     }
 
@@ -108,8 +112,12 @@ bool EventQueue::deliverNext(std::int64_t limitMs, bool withWatches,
     const auto place = items.begin() + static_cast<std::ptrdiff_t>(choice->index);
     const Item item = std::move(*place);
     items.erase(place);
-    const RunningMark mark(item.source != nullptr ? &item.source->running_ : nullptr);
-    item.handler();
+    if (!item.source) {
+        item.handler();
+    } else if (!item.source->gone) {
+        const RunningMark mark(item.source->running);
+        item.handler();
+    }
     return true;
 }
 

@@ -1,12 +1,12 @@
 // The one ordered queue of everything that can happen to a single-threaded program.
 //
 // Order of delivery: by (due time, kind, order within the kind). Kinds, first to last: what the outside
-// world did, in order of arrival; messages that the program posted to itself, in order of posting; timers,
-// in the order in which each was last switched from disabled to enabled; watches.
+// world did, in order of announcement; messages that the program posted to itself, in order of posting;
+// timers, in the order in which each was last switched from disabled to enabled; watches.
 //
 // A handler belongs to an EventSource (or to none). While a source's handler runs, the source is not entered
 // again by a nested delivery: its event waits and is delivered later in the same order. An outside event that
-// waits holds back all outside events behind it.
+// waits holds back all outside events behind it. A source that is destroyed takes its waiting events with it.
 //
 // A periodic timer keeps its grid: on delivery of the event due at d with the clock at now, its next due time
 // is the first d + k * interval later than now, set before its handler runs, so missed periods collapse into
@@ -27,11 +27,20 @@ namespace quorrin {
 // The identity of one handler for the rule "a running handler is not entered again".
 class EventSource {
   public:
-    bool running() const { return running_; }
+    EventSource() : state_(std::make_shared<State>()) {}
+    ~EventSource() { state_->gone = true; }
+    EventSource(const EventSource&) = delete;
+    EventSource& operator=(const EventSource&) = delete;
+
+    bool running() const { return state_->running; }
 
   private:
     friend class EventQueue;
-    bool running_ = false;
+    struct State {
+        bool running = false;
+        bool gone = false;
+    };
+    std::shared_ptr<State> state_;
 };
 
 class EventQueue {
@@ -49,7 +58,8 @@ class EventQueue {
     // State of one timer. Owned jointly by its TimerMM and, during delivery, by the queue.
     struct TimerNode {
         EventSource source;
-        Handler handler;
+        // Shared, so that a handler which sets another one goes on to its end.
+        std::shared_ptr<const Handler> handler;
         std::int64_t dueMs = 0;
         std::int64_t intervalMs = 0;
         std::uint64_t order = 0;  // position in the order of enabling
@@ -77,8 +87,10 @@ class EventQueue {
     struct Item {
         std::int64_t dueMs;
         std::uint64_t order;
-        EventSource* source;
+        std::shared_ptr<EventSource::State> source;  // empty: no source
         Handler handler;
+
+        bool waits() const { return source && source->running; }
     };
     struct Choice {
         Key key;
@@ -86,9 +98,10 @@ class EventQueue {
         std::size_t index = 0;             // of the message in messages_
     };
 
+    static Item itemFor(std::int64_t dueMs, std::uint64_t order, EventSource* source, Handler handler);
     std::optional<Choice> choose(std::int64_t limitMs, bool withWatches) const;
 
-    std::deque<Item> outside_;   // by arrival
+    std::deque<Item> outside_;   // by due time, then by arrival
     std::deque<Item> messages_;  // by posting; due times never decrease
     std::vector<std::shared_ptr<TimerNode>> timers_;
     std::uint64_t lastOrder_ = 0;

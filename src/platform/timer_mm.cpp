@@ -6,7 +6,7 @@ namespace quorrin {
 
 TimerMM::TimerMM(Clock& clock, std::function<void()> handler, EventQueue::Kind kind)
     : clock_(clock), node_(std::make_shared<EventQueue::TimerNode>()) {
-    node_->handler = std::move(handler);
+    setHandler(std::move(handler));
     node_->kind = kind;
     clock_.queue_.addTimer(node_);
 }
@@ -16,6 +16,10 @@ TimerMM::~TimerMM() {
     clock_.queue_.removeTimer(node_);
 }
 
+void TimerMM::setHandler(std::function<void()> handler) {
+    node_->handler = std::make_shared<const EventQueue::Handler>(std::move(handler));
+}
+
 void TimerMM::setEnabled(bool enabled) {
     if (enabled == node_->enabled) return;
     node_->enabled = enabled;
@@ -23,6 +27,14 @@ void TimerMM::setEnabled(bool enabled) {
         clock_.queue_.takeOrder(*node_);
         node_->dueMs = clock_.nowMs() + node_->intervalMs;
     }
+    clock_.queueChanged();
+}
+
+void TimerMM::startAt(std::int64_t dueMs) {
+    if (node_->enabled) return;
+    node_->enabled = true;
+    clock_.queue_.takeOrder(*node_);
+    node_->dueMs = dueMs;
     clock_.queueChanged();
 }
 

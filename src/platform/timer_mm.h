@@ -23,10 +23,12 @@ class TimerMM {
     TimerMM(const TimerMM&) = delete;
     TimerMM& operator=(const TimerMM&) = delete;
 
-    void setHandler(std::function<void()> handler) { node_->handler = std::move(handler); }
+    void setHandler(std::function<void()> handler);
 
     bool enabled() const { return node_->enabled; }
     void setEnabled(bool enabled);
+    // Switches a disabled timer on with its first event due at `dueMs`, from where its grid goes on.
+    void startAt(std::int64_t dueMs);
     std::int64_t interval() const { return node_->intervalMs; }
     void setInterval(std::int64_t intervalMs);
     bool periodic() const { return node_->periodic; }

@@ -1,19 +1,51 @@
 #include "session/station.h"
 
+#include "base/program_error.h"
+#include "console/login.h"
+#include "console/session_paths.h"
+#include "session/end_task.h"
+#include "session/main_form.h"
+
 namespace quorrin {
 
-struct Station::Parts {};
+struct Station::Parts {
+    Parts(const StationPorts& ports, Station& station)
+        : mainForm(ports, station.values, station.gui, station.controlPanel, station.seams),
+          loginLogic(station.login, station.values, ports.files, ports.boxes, ports.folders,
+                     {[ports, &station](const std::string& title) {
+                          EndTask(title, station.values, ports.programs, ports.boxes, ports.clock);
+                      },
+                      [&station] { station.showMainForm(); },
+                      [ports] {
+                          if (ports.endProgram) ports.endProgram();
+                          throw ProgramEnd{};
+                      }}) {}
+
+    MainForm mainForm;
+    Login loginLogic;
+};
 
 Station::Station(const StationPorts& ports)
-    : login(ports.clock), gui(ports.clock), controlPanel(ports.clock), ports_(ports) {}
+    : login(ports.clock),
+      gui(ports.clock),
+      controlPanel(ports.clock),
+      ports_(ports),
+      parts_(std::make_unique<Parts>(ports, *this)) {}
 
 Station::~Station() = default;
 
 void Station::startAtLogin() {
-    login.show();
+    parts_->loginLogic.Form_Load();
 }
 
 void Station::startAtMainForm() {
+    buildPaths(values, ports_.folders);
+    readStoredAddress(values, ports_.files);
+    showMainForm();
+}
+
+void Station::showMainForm() {
+    parts_->mainForm.Form_Load();
     gui.show();
 }
 
@@ -22,19 +54,19 @@ std::vector<Form*> Station::forms() {
 }
 
 const speedP2PVFH* Station::navigator() const {
-    return nullptr;
+    return parts_->mainForm.navigator();
 }
 
 const GPS* Station::gps() const {
-    return nullptr;
+    return parts_->mainForm.gps();
 }
 
 const SensorMapBuilder* Station::sensorMap() const {
-    return nullptr;
+    return parts_->mainForm.sensorMap();
 }
 
 const AntiStuck* Station::antiStuck() const {
-    return nullptr;
+    return parts_->mainForm.antiStuck();
 }
 
 }  // namespace quorrin

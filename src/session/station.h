@@ -9,20 +9,15 @@
 // events.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <vector>
 
 #include "console/frm_control_panel.h"
 #include "console/frm_gui.h"
 #include "console/frm_login.h"
-#include "platform/clock.h"
-#include "platform/files.h"
-#include "platform/folders.h"
-#include "platform/message_box.h"
-#include "platform/programs.h"
-#include "robotlink/quorrin_sdk.h"
 #include "session/record/public_values.h"
+#include "session/session_seams.h"
+#include "session/station_ports.h"
 
 namespace quorrin {
 
@@ -30,17 +25,6 @@ class AntiStuck;
 class GPS;
 class SensorMapBuilder;
 class speedP2PVFH;
-
-struct StationPorts {
-    Clock& clock;
-    Files& files;
-    Programs& programs;
-    MessageBoxes& boxes;
-    QuorrinSDK& myRobot;
-    QuorrinSDK& robotTI;
-    Folders folders;
-    std::function<void()> endProgram;
-};
 
 class Station {
   public:
@@ -51,6 +35,8 @@ class Station {
     frmLogin login;
     frmGUI gui;
     frmControlPanel controlPanel;
+    // Places of the rooms above; to be set before the main form loads.
+    SessionSeams seams;
 
     // Begins with the login form, or as if the login had just handed over with the stored (or default)
     // address. The main form's load blocks a second.
@@ -68,6 +54,8 @@ class Station {
 
   private:
     struct Parts;
+    void showMainForm();
+
     StationPorts ports_;
     std::unique_ptr<Parts> parts_;
 };

@@ -1,8 +1,9 @@
 // Time that jumps: the clock of quorrin-replay and of the tests.
 //
 // runUntil(t) delivers everything due at or before t, jumping from due time to due time; a blocking wait
-// inside a handler moves the clock on and delivers nothing. The clock refuses to go backwards and gives up
-// (ProgramError) after `eventCap` deliveries without progress of time, which catches endless loops.
+// inside a handler moves the clock on and delivers nothing. The clock refuses to go backwards or to be run
+// from inside a handler, and gives up (all ProgramError) after `eventCap` deliveries without progress of
+// time, which catches endless loops.
 #pragma once
 
 #include <cstdint>
@@ -29,12 +30,14 @@ class VirtualClock : public Clock {
 
   private:
     void wait(std::int64_t ms) override;
+    void delivering() override;
     void advanceTo(std::int64_t ms);
 
     CivilTime wallAtZero_;
     std::int64_t nowMs_ = 0;
     std::int64_t eventCap_ = 1'000'000;
     std::int64_t eventsAtThisTime_ = 0;
+    bool running_ = false;
 };
 
 }  // namespace quorrin

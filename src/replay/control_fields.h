@@ -1,0 +1,11 @@
+// How a control prints in a watch: text boxes, captions and drop-downs as texts, sliders, check boxes (0 or
+// 1), lamps and pictures as numbers, options and timers as true or false.
+#pragma once
+
+#include "base/controls.h"
+
+namespace quorrin {
+
+void appendControl(std::string& out, const Control& control);
+
+}  // namespace quorrin

@@ -1,0 +1,210 @@
+#include "replay/script_parser.h"
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <set>
+
+#include "replay/frame_scanner.h"
+#include "replay/line_fields.h"
+#include "replay/script_error.h"
+#include "replay/script_limits.h"
+
+namespace quorrin {
+
+namespace {
+
+using Json = nlohmann::json;
+
+// Kinds of lines of rooms that the station does not have yet.
+constexpr const char* kNotBuilt[] = {"choose", "joystick",    "connect",    "receive",
+                                     "hangup", "socketError", "waveInDone", "waveOutDone"};
+
+Json parseObject(std::string_view text, std::int64_t number) {
+    if (text.substr(0, 3) == "\xEF\xBB\xBF") throw ScriptError{number, "begins with a byte order mark"};
+    std::set<std::string> keys;
+    std::string twice;
+    const auto watchKeys = [&](int depth, Json::parse_event_t event, Json& parsed) {
+        if (event == Json::parse_event_t::key && depth == 1) {
+            const auto& key = parsed.get_ref<const std::string&>();
+            if (!keys.insert(key).second) twice = key;
+        }
+        return true;
+    };
+    Json object;
+    try {
+        object = Json::parse(text.begin(), text.end(), watchKeys);
+    } catch (const Json::exception& error) {
+        // Behind "[...] parse error at line 1, column N: ", where the line would mislead.
+        const std::string what = error.what();
+        const auto colon = what.find(": ");
+        throw ScriptError{number,
+                          "no valid JSON: " + (colon == std::string::npos ? what : what.substr(colon + 2))};
+    }
+    if (!object.is_object()) throw ScriptError{number, "is no JSON object"};
+    if (!twice.empty()) throw ScriptError{number, "has the key \"" + twice + "\" twice"};
+    return object;
+}
+
+FrameLine parseProperties(LineFields& fields, int kind) {
+    FrameLine frame;
+    frame.kind = kind;
+    const LinkName link = frameKinds()[static_cast<std::size_t>(kind)].link;
+    for (int i = 0; i < kFrameProperties; ++i) {
+        const FrameProperty& entry = frameProperties()[static_cast<std::size_t>(i)];
+        if (!fields.has(entry.name)) continue;
+        if (entry.link != link)
+            fields.fail("property \"" + std::string(entry.name) + "\" does not belong to " + linkText(link));
+        if (entry.value == nullptr) {
+            frame.sonarCm = fields.fourIntegers(entry.name);
+            frame.set(i, 0);
+        } else {
+            frame.set(i, fields.integer(entry.name));
+        }
+    }
+    return frame;
+}
+
+void parseFrame(LineFields& fields, ScriptLine& line) {
+    const std::string name = fields.text("frame");
+    const int kind = findFrameKind(name);
+    if (kind < 0) fields.fail("unknown frame \"" + name + "\"");
+    const FrameLine frame = parseProperties(fields, kind);
+    FrameFileLine withFile;
+    withFile.frame = frame;
+    if (name == "ImageFrame" && fields.has("bitmap")) {
+        withFile.hasBitmap = true;
+        withFile.bitmap = fields.text("bitmap");
+    }
+    if (name == "SoundFrame") {
+        if (fields.has("hex") && fields.has("file")) fields.fail("has both \"hex\" and \"file\"");
+        withFile.hasSound = fields.has("hex") || fields.has("file");
+        if (fields.has("file")) withFile.soundFile = fields.text("file");
+        if (fields.has("hex")) {
+            const auto bytes = bytesFromHex(fields.text("hex"));
+            if (!bytes) fields.fail("\"hex\" is no even number of hex digits");
+            withFile.soundBytes = *bytes;
+        }
+    }
+    if (withFile.hasBitmap || withFile.hasSound) {
+        line.what = std::move(withFile);
+    } else {
+        line.what = frame;
+    }
+}
+
+void parseKey(LineFields& fields, ScriptLine& line, bool down) {
+    const char* kind = down ? "keyDown" : "keyUp";
+    if (!fields.has("on")) fields.fail("\"" + std::string(kind) + "\" on the control panel is not built yet");
+    line.what = KeyLine{fields.whole(kind), down, fields.text("on")};
+}
+
+void parseUnload(LineFields& fields, ScriptLine& line) {
+    if (fields.isText("unload")) {
+        line.what = UnloadLine{fields.text("unload")};
+        return;
+    }
+    if (!fields.boolean("unload")) fields.fail("\"unload\" must be true or the name of a form");
+    line.what = UnloadLine{};
+}
+
+void parseWatch(LineFields& fields, ScriptLine& line) {
+    WatchLine watch{fields.texts("watch"), fields.whole("every")};
+    if (watch.everyMs < 1 || watch.everyMs > kLastTimeMs) fields.fail("\"every\" must be at least 1");
+    line.what = std::move(watch);
+}
+
+void parseAnswer(LineFields& fields, ScriptLine& line) {
+    const std::string answer = fields.text("answer");
+    if (answer != "yes" && answer != "no" && answer != "ok") fields.fail("unknown answer \"" + answer + "\"");
+    line.what = AnswerLine{answer};
+}
+
+void parseLogin(LineFields& fields, ScriptLine& line) {
+    if (!fields.boolean("login")) fields.fail("\"login\" must be true");
+    line.what = LoginLine{};
+}
+
+struct Kind {
+    const char* key;
+    void (*parse)(LineFields&, ScriptLine&);
+};
+
+constexpr Kind kKinds[] = {
+    {"frame", parseFrame},
+    {"click", [](LineFields& f, ScriptLine& line) { line.what = ClickLine{f.text("click")}; }},
+    {"press",
+     [](LineFields& f, ScriptLine& line) {
+         line.what = PressLine{f.text("press"), true};
+     }},
+    {"release",
+     [](LineFields& f, ScriptLine& line) {
+         line.what = PressLine{f.text("release"), false};
+     }},
+    {"set",
+     [](LineFields& f, ScriptLine& line) {
+         line.what = SetLine{f.text("set"), f.controlValue("to")};
+     }},
+    {"keyDown", [](LineFields& f, ScriptLine& line) { parseKey(f, line, true); }},
+    {"keyUp", [](LineFields& f, ScriptLine& line) { parseKey(f, line, false); }},
+    {"focus", [](LineFields& f, ScriptLine& line) { line.what = FocusLine{f.text("focus")}; }},
+    {"answer", parseAnswer},
+    {"unload", parseUnload},
+    {"activate", [](LineFields& f, ScriptLine& line) { line.what = ActivateLine{f.text("activate")}; }},
+    {"watch", parseWatch},
+    {"login", parseLogin},
+};
+
+}  // namespace
+
+bool isSkippedLine(std::string_view text) {
+    if (!text.empty() && text.front() == '#') return true;
+    return std::all_of(text.begin(), text.end(), [](char c) { return c == ' ' || c == '\t' || c == '\r'; });
+}
+
+void parseScriptLine(std::string_view text, std::int64_t number, ScriptLine& line) {
+    line.number = number;
+    if (scanFrameLine(text, line)) return;
+
+    line.timeMs = -1;
+    const Json object = parseObject(text, number);
+    LineFields fields(object, number);
+    const std::int64_t time = fields.whole("t");
+    if (time < 0) fields.fail("\"t\" is negative");
+    if (time > kLastTimeMs) fields.fail("\"t\" is too large");
+    line.timeMs = time;
+
+    for (const char* kind : kNotBuilt) {
+        if (fields.has(kind)) fields.fail("\"" + std::string(kind) + "\" is not built yet");
+    }
+    const Kind* chosen = nullptr;
+    for (const Kind& kind : kKinds) {
+        if (!fields.has(kind.key)) continue;
+        if (chosen != nullptr)
+            fields.fail("is both \"" + std::string(chosen->key) + "\" and \"" + std::string(kind.key) + "\"");
+        chosen = &kind;
+    }
+    if (chosen == nullptr) fields.fail("no known kind of line" + fields.unusedKeys());
+    chosen->parse(fields, line);
+    fields.expectAllUsed();
+}
+
+std::optional<std::string> bytesFromHex(std::string_view hex) {
+    const auto digit = [](char c) {
+        if (c >= '0' && c <= '9') return c - '0';
+        if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+        if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+        return -1;
+    };
+    if (hex.size() % 2 != 0) return std::nullopt;
+    std::string bytes;
+    bytes.reserve(hex.size() / 2);
+    for (std::size_t i = 0; i < hex.size(); i += 2) {
+        const int high = digit(hex[i]);
+        const int low = digit(hex[i + 1]);
+        if (high < 0 || low < 0) return std::nullopt;
+        bytes += static_cast<char>(high * 16 + low);
+    }
+    return bytes;
+}
+
+}  // namespace quorrin

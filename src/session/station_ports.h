@@ -1,0 +1,27 @@
+// What one station asks of its host. Everything referred to must outlive the station.
+#pragma once
+
+#include <functional>
+
+#include "platform/clock.h"
+#include "platform/files.h"
+#include "platform/folders.h"
+#include "platform/message_box.h"
+#include "platform/programs.h"
+#include "robotlink/quorrin_sdk.h"
+
+namespace quorrin {
+
+struct StationPorts {
+    Clock& clock;
+    Files& files;
+    Programs& programs;
+    MessageBoxes& boxes;
+    QuorrinSDK& myRobot;
+    QuorrinSDK& robotTI;
+    Folders folders;
+    // Ends the program; should not return.
+    std::function<void()> endProgram;
+};
+
+}  // namespace quorrin
