@@ -30,8 +30,8 @@ TEST(CheckedInt, RefusesAValueThatDoesNotFit) {
 }
 
 TEST(CheckedInt, RefusesUnsignedValuesThatWouldTurnNegative) {
-    EXPECT_THROW(Integer(std::numeric_limits<std::uint64_t>::max()), ProgramError);
-    EXPECT_THROW(Long(std::numeric_limits<std::uint32_t>::max()), ProgramError);
+    EXPECT_THROW(Integer{std::numeric_limits<std::uint64_t>::max()}, ProgramError);
+    EXPECT_THROW(Long{std::numeric_limits<std::uint32_t>::max()}, ProgramError);
     EXPECT_EQ(Long(std::size_t{70000}), 70000);
 }
 
