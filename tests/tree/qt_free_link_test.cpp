@@ -35,5 +35,12 @@ TEST(QtFreeLink, TheStationsLibraryWantsNothingOfQt) {
     EXPECT_THAT(wantsOfQt(symbols.output), IsEmpty());
 }
 
+TEST(QtFreeLink, AWholeStationRunsWithoutQtInTheReplayProgram) {
+    const Outcome libraries = runCommand("ldd '" QUORRIN_BIN_DIR "/quorrin-replay'");
+    ASSERT_EQ(libraries.status, 0) << libraries.output;
+    EXPECT_THAT(libraries.output, HasSubstr("libstdc++"));
+    EXPECT_THAT(qtLibraries(libraries.output), IsEmpty());
+}
+
 }  // namespace
 }  // namespace quorrin::tree
