@@ -5,4 +5,5 @@ file(CREATE_LINK ${PROJECT_SOURCE_DIR}/share ${PROJECT_BINARY_DIR}/share/quorrin
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/share/ DESTINATION share/quorrin)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/docs/ DESTINATION share/doc/quorrin/docs)
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples/ DESTINATION share/doc/quorrin/examples)
 install(FILES ${PROJECT_SOURCE_DIR}/README.md DESTINATION share/doc/quorrin)

@@ -30,13 +30,14 @@ TEST(ShippedFiles, TheGreetingIsPcmOf8kHz16BitMono) {
     EXPECT_EQ(numberAt(wav, 40, 4), wav.size() - 44);
 }
 
-TEST(ShippedFiles, TheFaceIsA24BitBitmap128PixelsWide) {
+TEST(ShippedFiles, TheFaceIsA24BitBitmapOf128By128Pixels) {
     const std::string bmp = readText("share/quorrin128.bmp");
     EXPECT_EQ(bmp.substr(0, 2), "BM");
     EXPECT_EQ(numberAt(bmp, 2, 4), bmp.size());
     EXPECT_EQ(numberAt(bmp, 18, 4), 128U);
+    EXPECT_EQ(numberAt(bmp, 22, 4), 128U);
     EXPECT_EQ(numberAt(bmp, 28, 2), 24U);
-    EXPECT_EQ(numberAt(bmp, 10, 4) + 128U * 3U * numberAt(bmp, 22, 4), bmp.size());
+    EXPECT_EQ(numberAt(bmp, 10, 4) + 128U * 3U * 128U, bmp.size());
 }
 
 TEST(ShippedFiles, SoundAndFaceAreWhatTheirGeneratorWrites) {
