@@ -7,6 +7,7 @@
 #include <benchmark/benchmark.h>
 
 #include <cstring>
+#include <string>
 #include <vector>
 
 #include "figure.h"
@@ -19,13 +20,12 @@ class FigureReporter : public benchmark::BenchmarkReporter {
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs) {
             if (run.error_occurred) {
-                std::cerr << run.benchmark_name() << ": " << run.error_message << '\n';
+                std::cerr << nameOf(run) << ": " << run.error_message << '\n';
                 failed_ = true;
                 continue;
             }
             const auto baseline = run.counters.find("baseline");
-            printFigure(run.benchmark_name(), run.GetAdjustedRealTime(),
-                        benchmark::GetTimeUnitString(run.time_unit),
+            printFigure(nameOf(run), run.GetAdjustedRealTime(), benchmark::GetTimeUnitString(run.time_unit),
                         baseline == run.counters.end() ? std::nullopt
                                                        : std::optional<double>(baseline->second.value));
         }
@@ -33,6 +33,12 @@ class FigureReporter : public benchmark::BenchmarkReporter {
     bool failed() const { return failed_; }
 
   private:
+    // Without the library's remarks on how it measured.
+    static std::string nameOf(const Run& run) {
+        return run.run_name.args.empty() ? run.run_name.function_name
+                                         : run.run_name.function_name + "/" + run.run_name.args;
+    }
+
     bool failed_ = false;
 };
 

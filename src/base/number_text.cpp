@@ -64,6 +64,8 @@ Integer wholeToInteger(std::string_view text) {
 }
 
 Integer numberToInteger(std::string_view text) {
+    // The thresholds are read on every tick and are whole numbers; this spares the way over a decimal.
+    if (const auto whole = parseWhole(text)) return Integer(*whole);
     return roundToInteger(toDouble(text));
 }
 

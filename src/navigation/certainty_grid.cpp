@@ -25,16 +25,18 @@ std::size_t at(int index) {
     return static_cast<std::size_t>(index);
 }
 
+// Counts are never negative, so a sum that fits at its end has fitted all along.
 Integer neighbourSum(const MapValues& map, int x, int y) {
-    Integer sum;
-    for (int i = x - 1; i <= x + 1; ++i)
-        for (int j = y - 1; j <= y + 1; ++j)
-            if (i != x || j != y) sum += Integer(map.certaintyGrid[at(i)][at(j)]);
-    return sum;
+    int sum = -map.certaintyGrid[at(x)][at(y)];
+    for (int i = x - 1; i <= x + 1; ++i) {
+        const std::int16_t* const middle = &map.certaintyGrid[at(i)][at(y)];
+        sum += middle[-1] + middle[0] + middle[1];
+    }
+    return Integer(sum);
 }
 
 void lower(std::int16_t& cell) {
-    if (cell > 0) --cell;
+    cell = static_cast<std::int16_t>(cell - (cell > 0 ? 1 : 0));  // no branch: counts come as they like
 }
 
 // One walk, seen along its longer axis: `major` and `minor` are the signed differences of the end cells.
@@ -52,8 +54,9 @@ Walk walkAlong(Integer major, Integer minor) {
 }
 
 // Both ends lie on the grid, so every cell between them does too. The position on the shorter axis is
-// |minor| * k / |major| rounded half to even; `rest` is 2 * |minor| * k + |major| less the whole doubles of
-// |major| taken out so far, so that 0 stands for a tie.
+// |minor| * k / |major| rounded half to even, kept up by whole numbers: `rest` is 2 * |minor| * k + |major|
+// less 2 * |major| for each step taken aside, so that a rest of exactly 2 * |major| is a tie, which steps
+// aside only from an odd place.
 void walkInside(std::int16_t* cell, const Walk& walk, std::ptrdiff_t majorStride,
                 std::ptrdiff_t minorStride) {
     const std::ptrdiff_t ahead = walk.direction > 0 ? majorStride : -majorStride;
@@ -61,15 +64,15 @@ void walkInside(std::int16_t* cell, const Walk& walk, std::ptrdiff_t majorStride
     const int whole = 2 * std::abs(walk.major);
     const int slope = 2 * std::abs(walk.minor);
     int rest = std::abs(walk.major);
-    bool odd = false;
+    int odd = 0;
     for (int left = walk.steps; left > 0; --left) {
-        lower(rest == 0 && odd ? cell[-aside] : *cell);
+        lower(*cell);
         cell += ahead;
         rest += slope;
-        if (rest >= whole) {
+        if (rest + odd > whole) {
             rest -= whole;
             cell += aside;
-            odd = !odd;
+            odd ^= 1;
         }
     }
 }
@@ -88,7 +91,15 @@ void walkChecked(MapValues& map, Integer x0, Integer y0, const Walk& walk, bool 
 // Eight cells at once; both compilers turn it into what the machine has.
 using EightCells [[gnu::vector_size(16)]] = std::int16_t;
 constexpr std::size_t kCellsAtOnce = 8;
-static_assert(kGridCells % kCellsAtOnce == 0, "a row is whole groups");
+constexpr std::size_t kGroupsInHand = 4;
+static_assert(kGridCells % (kCellsAtOnce * kGroupsInHand) == 0, "a row is whole groups");
+
+inline void fadeEight(std::int16_t* first) {
+    EightCells cells;
+    std::memcpy(&cells, first, sizeof cells);
+    cells += cells > 0;  // true is -1
+    std::memcpy(first, &cells, sizeof cells);
+}
 
 }  // namespace
 
@@ -131,12 +142,13 @@ void clearRay(MapValues& map, Integer x0, Integer y0, Integer x1, Integer y1) {
 
 void fadeGrid(MapValues& map) {
     for (std::size_t x = 1; x <= kGridCells; ++x) {
-        std::int16_t* const row = &map.certaintyGrid[x][1];
-        for (std::size_t y = 0; y < kGridCells; y += kCellsAtOnce) {
-            EightCells cells;
-            std::memcpy(&cells, row + y, sizeof cells);
-            cells += cells > 0;  // true is -1
-            std::memcpy(row + y, &cells, sizeof cells);
+        std::int16_t* group = &map.certaintyGrid[x][1];
+        const std::int16_t* const end = group + kGridCells;
+        for (; group != end; group += kCellsAtOnce * kGroupsInHand) {
+            fadeEight(group);
+            fadeEight(group + kCellsAtOnce);
+            fadeEight(group + kCellsAtOnce * 2);
+            fadeEight(group + kCellsAtOnce * 3);
         }
     }
 }

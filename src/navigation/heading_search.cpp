@@ -31,7 +31,11 @@ class Sectors {
     bool blocked(Integer sector) const { return value(sector) == 1; }
 
   private:
-    int value(Integer sector) const { return map_.binaryHistogram[histogramIndex(wrapSector(sector))]; }
+    int value(Integer sector) const {
+        const int near = sector;
+        if (near >= 1 && near <= kSectors) return map_.binaryHistogram[static_cast<std::size_t>(near)];
+        return map_.binaryHistogram[histogramIndex(wrapSector(sector))];
+    }
     const MapValues& map_;
 };
 

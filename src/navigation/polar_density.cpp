@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
 
 #include "base/rounding.h"
 #include "navigation/window_tables.h"
@@ -12,7 +11,8 @@ namespace quorrin {
 namespace {
 
 using Grid = decltype(MapValues::certaintyGrid);
-using Padded = std::array<std::int16_t, 41>;
+// Entries 0 to 40 of the smoothing's scratch; the rest only rounds it up to whole groups of eight.
+using Padded = std::array<std::int16_t, 48>;
 
 constexpr int kFirstUsable = 1;
 constexpr int kLastUsable = 159;
@@ -106,10 +106,19 @@ Integer smoothedChecked(const Padded& t, std::size_t i) {
     return roundToInteger(static_cast<double>(sum) / 9.0);
 }
 
-// Ninths never tie, so half to even is "add four, cut off" for the sums here, which are not negative.
-std::int16_t smoothedSmall(const Padded& t, std::size_t i) {
-    const int sum = t[i] * 3 + (t[i - 1] + t[i + 1]) * 2 + t[i - 2] + t[i + 2];
-    return static_cast<std::int16_t>(static_cast<unsigned>(sum + 4) / 9U);
+// Sectors 1 to 36 of densities up to 2047, whose ninefold fits. Ninths never tie, so half to even is "add
+// four, cut off". The four lanes too many make whole groups of eight.
+constexpr std::uint16_t kSmallBits = 2047;
+
+void smoothSmall(MapValues& map, const Padded& t) {
+    std::array<std::uint16_t, 40> smoothed;
+    for (std::size_t n = 0; n < smoothed.size(); ++n) {
+        const auto ring = [&](std::size_t i) { return static_cast<std::uint16_t>(t[n + i]); };
+        const auto sum =
+            static_cast<std::uint16_t>(ring(3) * 3 + (ring(2) + ring(4)) * 2 + ring(1) + ring(5) + 4);
+        smoothed[n] = static_cast<std::uint16_t>(sum / 9U);
+    }
+    std::copy_n(smoothed.begin(), kSectors, map.polarHistogram.begin() + 1);
 }
 
 }  // namespace
@@ -132,17 +141,14 @@ void buildPolarHistogram(MapValues& map, Integer robotCellX, Integer robotCellY)
 }
 
 void smoothPolarHistogram(MapValues& map) {
-    constexpr int kSafe = std::numeric_limits<std::int16_t>::max() / 9;
     const Padded t = padded(map);
-    std::int16_t lowest = 0;
-    std::int16_t highest = 0;
-    for (const std::int16_t value : t) {
-        lowest = std::min(lowest, value);
-        highest = std::max(highest, value);
+    std::uint16_t bits = 0;
+    for (const std::int16_t value : t) bits |= static_cast<std::uint16_t>(value);
+    if ((bits & ~kSmallBits) == 0) {
+        smoothSmall(map, t);
+        return;
     }
-    const bool small = lowest >= 0 && highest <= kSafe;
-    for (std::size_t i = 3; i <= 38; ++i)
-        map.polarHistogram[i - 2] = small ? smoothedSmall(t, i) : smoothedChecked(t, i).value();
+    for (std::size_t i = 3; i <= 38; ++i) map.polarHistogram[i - 2] = smoothedChecked(t, i);
 }
 
 void thresholdHistogram(MapValues& map, Integer densityThreshold) {

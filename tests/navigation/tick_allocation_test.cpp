@@ -11,6 +11,7 @@
 #include "navigation/sensor_map_builder.h"
 #include "navigation/teleoperation.h"
 #include "support/navigation_station.h"
+#include "support/silent_link.h"
 
 namespace {
 std::size_t allocations = 0;
@@ -35,31 +36,18 @@ void operator delete(void* memory, std::size_t) noexcept {
 namespace quorrin {
 namespace {
 
-// A link that keeps nothing.
-class SilentLink : public QuorrinSDK {
-  public:
-    void BindGateway(const std::string&) override {}
-    void SetDriveControlMode(Integer, Integer) override {}
-    void SetDriveVelocities(const SixValues&) override { ++commands; }
-    void MoveDrivesTimed(const SixValues&, Integer) override {}
-    void MoveServosTimed(const SixValues&, Integer) override {}
-    void SuspendDrive(Integer) override {}
-    void ShowLcdBitmap(const std::string&) override {}
-    void SelectLandmarks(Integer, Integer, Integer, Integer) override {}
-    void WritePowerByte(Integer) override {}
-    void RequestImage() override {}
-    void SaveFrameToFile(const std::string&) override {}
-    void PlaySoundFile(const std::string&) override {}
-    void StartSoundCapture(Integer) override {}
-    void StopSoundCapture() override {}
-    void StopSoundPlayback() override {}
-    int commands = 0;
-};
-
 TEST(TickAllocation, TheCounterSeesTheHeap) {
     const std::size_t before = allocations;
     const auto text = std::make_unique<std::string>(100, 'x');
     EXPECT_GE(allocations, before + 2);
+}
+
+TEST(SilentLinkFake, CountsWheelCommandsAndNothingElse) {
+    SilentLink link;
+    link.SetDriveVelocities({});
+    link.SuspendDrive(0);
+    link.SetDriveVelocities({});
+    EXPECT_EQ(link.velocityCommands(), 2);
 }
 
 class SteadyTicks : public ::testing::Test, protected NavigationStation {
@@ -114,7 +102,7 @@ TEST_F(SteadyTicks, NeedNoHeap) {
     navigator.run();
     allocationsOf(20);
     EXPECT_EQ(allocationsOf(5000), 0U);
-    EXPECT_GT(silent.commands, 100);
+    EXPECT_GT(silent.velocityCommands(), 100);
 }
 
 TEST_F(SteadyTicks, EveryOutcomeOfTheSearchNeedsNoHeap) {
