@@ -105,9 +105,9 @@ def talk(robot, role, line):
                 greeted = True
                 robot.obey(kind, body)
         now = time.monotonic()
-        if role == MOT:
-            robot.move(now - last if now - last < 0.2 else 0, now - heard < DEAD_MAN)
         if now - last >= 0.1:
+            if role == MOT:
+                robot.move(now - last, now - heard < DEAD_MAN)
             tick, last = tick + 1, now
             line.sendall(packet(HEARTBEAT) + (robot.frames(role, tick) if greeted else b""))
 

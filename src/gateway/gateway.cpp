@@ -37,6 +37,9 @@ Gateway::Gateway(const GatewayPorts& ports, const GatewayKind& kind)
     waiting_.setPeriodic(false);
     waiting_.setInterval(kWaitMs);
     alone_.setInterval(kAloneMs);
+    robot_.onUp = [this] {
+        if (powerByte_) robot_.send(*powerByte_);
+    };
     robot_.onFrame = [this](const wire::Packet& frame) { deliver(frame); };
 }
 
@@ -98,10 +101,15 @@ void Gateway::greeted(PacketChannel& caller, const std::string& name) {
     station_ = std::move(channel);
     station_->onPacket = [this](const wire::Packet& packet) {
         if (kindOf(packet) == PacketKind::frame) return shutDown("the station sent a frame");
-        if (kindOf(packet) == PacketKind::operation) robot_.send(packet);
+        if (kindOf(packet) == PacketKind::operation) obey(packet);
     };
     station_->onEnded = [this](const std::string& why) { shutDown("the station " + why); };
     ports_.log("the station has connected (" + name + ")");
+}
+
+void Gateway::obey(const wire::Packet& operation) {
+    if (operation.has_write_power_byte()) powerByte_ = operation;
+    robot_.send(operation);
 }
 
 void Gateway::deliver(const wire::Packet& frame) {

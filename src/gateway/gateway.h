@@ -7,14 +7,16 @@
 // connected. Ending a motion gateway suspends both drives before it says goodbye.
 //
 // Operations are dropped while the robot is away, frames while no station is there or while it does not take
-// them. Nothing is queued for later. A wheel speed of exactly -1 is passed on as -2: the station divides by
-// the speed plus 1. It keeps no state of the robot.
+// them. Nothing is queued for later, but a robot that connects is told the last power byte: it is a setting,
+// and the station writes it only when it changes. A wheel speed of exactly -1 is passed on as -2: the station
+// divides by the speed plus 1. It keeps no other state.
 //
 // Errors: lines on the log. `end` is called once with the exit status (0; 1 when it could not work at all).
 #pragma once
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -55,6 +57,7 @@ class Gateway {
     void greeted(PacketChannel& caller, const std::string& name);
     // Takes the caller off the list.
     std::unique_ptr<PacketChannel> leave(PacketChannel& caller);
+    void obey(const wire::Packet& operation);
     void deliver(const wire::Packet& frame);
     void shutDown(const std::string& why, int status = 0);
 
@@ -64,6 +67,7 @@ class Gateway {
     std::unique_ptr<Listener> listener_;
     std::vector<std::unique_ptr<PacketChannel>> callers_;  // without a Hello as yet
     std::unique_ptr<PacketChannel> station_;
+    std::optional<wire::Packet> powerByte_;
     TimerMM waiting_;  // for the other gateway to be gone
     TimerMM alone_;    // looks whether a station program runs, until one has connected
     int waits_ = 0;

@@ -63,6 +63,7 @@ void RobotSide::connected(std::unique_ptr<ByteStream> stream) {
         heardBytes_ = channel_->bytesHeard();
         heartbeat_.setEnabled(true);
         tell("connected to the robot at " + place_ + " (" + name + ")");
+        if (onUp) onUp();
     };
     channel_->onPacket = [this](const wire::Packet& packet) {
         if (kindOf(packet) == PacketKind::operation)

@@ -30,6 +30,9 @@ class RobotSide {
     // A sound frame of this link.
     std::function<void(const wire::Packet&)> onFrame;
 
+    // A robot has connected and said hello.
+    std::function<void()> onUp;
+
     void start();
     bool up() const { return channel_ && channel_->greeted() && channel_->open(); }
     // Dropped when the robot is not there.

@@ -41,6 +41,7 @@ void GatewayLink::BindGateway(const std::string& name) {
     name_ = name;
     role_ = name == "motcom" ? wire::ROLE_MOT : wire::ROLE_TI;
     look_.setEnabled(true);
+    look();
 }
 
 void GatewayLink::look() {
@@ -50,6 +51,9 @@ void GatewayLink::look() {
             connecting_.reset();
             if (!stream) return;
             channel_ = std::make_unique<PacketChannel>(std::move(stream), role_, "station");
+            channel_->onGreeted = [this](const std::string&) {
+                if (powerByte_) sendPowerByte();
+            };
             channel_->onPacket = [this](const wire::Packet& packet) { receive(packet); };
             channel_->onEnded = [this](const std::string&) { channel_.reset(); };
         });
@@ -161,8 +165,13 @@ void GatewayLink::SelectLandmarks(Integer first, Integer second, Integer third, 
 }
 
 void GatewayLink::WritePowerByte(Integer value) {
+    powerByte_ = value;
+    sendPowerByte();
+}
+
+void GatewayLink::sendPowerByte() {
     wire::Packet packet;
-    packet.mutable_write_power_byte()->set_value(value);
+    packet.mutable_write_power_byte()->set_value(*powerByte_);
     send(packet);
 }
 

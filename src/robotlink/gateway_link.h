@@ -13,6 +13,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/clock.h"
@@ -52,6 +53,7 @@ class GatewayLink : public QuorrinSDK {
   private:
     void look();
     void send(const wire::Packet& packet);
+    void sendPowerByte();
     void receive(const wire::Packet& packet);
     // Writes the frame's properties; the event that tells of it, or null for what is no frame.
     LinkEvent* eventOf(const wire::Packet& frame);
@@ -62,6 +64,7 @@ class GatewayLink : public QuorrinSDK {
     Files& files_;
     TimerMM look_;
     std::string name_;
+    std::optional<Integer> powerByte_;  // as last written
     wire::Role role_ = wire::ROLE_UNKNOWN;
     std::unique_ptr<Connecting> connecting_;
     std::unique_ptr<PacketChannel> channel_;

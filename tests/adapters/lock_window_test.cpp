@@ -179,6 +179,14 @@ TEST_F(PosixProgramsTest, SaysNothingOfAProgramThatCannotBeStarted) {
     EXPECT_TRUE(appears("done"));
 }
 
+TEST_F(PosixProgramsTest, WaitsAtItsEndForAProgramThatIsAboutToEnd) {
+    {
+        PosixPrograms own(folder.path());
+        own.start(script("sleep 0.2; echo > done"));
+    }
+    EXPECT_TRUE(files.fileExists(folder.path() + "/done"));
+}
+
 TEST_F(PosixProgramsTest, DoesNotWaitForTheProgram) {
     programs.start(script("echo > up; while [ ! -e go ]; do sleep 0.01; done; mv up done"));
     ASSERT_TRUE(appears("up"));

@@ -97,6 +97,28 @@ TEST_F(GatewayTest, ClosesOnRequestInTheSameWay) {
     EXPECT_FALSE(window.shown);
 }
 
+TEST_F(MultimediaGatewayTest, TellsARobotThatComesLateTheLastPowerByte) {
+    start();
+    connectStation();
+    for (const int value : {63, 59}) {
+        Packet packet;
+        packet.mutable_write_power_byte()->set_value(value);
+        station.say(packet);
+    }
+    clock.runFor(1000);
+    openRobot();
+    clock.runFor(1000);
+    robotSaysHello();
+    ASSERT_EQ(robot.count(Packet::kWritePowerByte), 1U);
+    EXPECT_EQ(robot.last(Packet::kWritePowerByte)->write_power_byte().value(), 59);
+}
+
+TEST_F(MultimediaGatewayTest, TellsARobotNoPowerByteThatWasNeverWritten) {
+    bringUp();
+    runWithRobotAlive(1000);
+    EXPECT_EQ(robot.count(Packet::kWritePowerByte), 0U);
+}
+
 TEST_F(MultimediaGatewayTest, EndsWithoutTouchingDrivesThatItsLinkDoesNotHave) {
     bringUp();
     station.hangUp();

@@ -34,7 +34,10 @@ TEST_F(PosixFilesTest, LeavesNoTemporaryFileBehind) {
 }
 
 TEST_F(PosixFilesTest, CannotWriteIntoAFolderThatDoesNotExist) {
+    std::vector<std::string> told;
+    files.onWriteFailed = [&](const std::string& name) { told.push_back(name); };
     EXPECT_FALSE(files.writeWhole(path("no/x.ini"), "one"));
+    EXPECT_EQ(told, std::vector<std::string>{path("no/x.ini")});
     EXPECT_FALSE(files.folderExists(path("no")));
 }
 

@@ -95,6 +95,26 @@ TEST_F(GatewayLinkTest, DropsOperationsWithoutAGatewayAndSendsNoneOfThemLater) {
     EXPECT_EQ(gateway.count(Packet::kSetDriveVelocities), 0U);
 }
 
+TEST_F(GatewayLinkTest, TellsAGatewayThatConnectsTheLastPowerByteOnly) {
+    role = wire::ROLE_TI;
+    link.BindGateway("ticom");
+    link.RequestImage();
+    link.WritePowerByte(63);
+    link.WritePowerByte(59);
+    openGateway("ticom");
+    clock.runFor(100);
+    gateway.takeHeard();
+    gateway.say(helloPacket(role, "gateway"));
+    EXPECT_EQ(heard().write_power_byte().value(), 59);
+}
+
+TEST_F(GatewayLinkTest, ConnectsAtOnceToAGatewayThatIsThereWhenItIsBound) {
+    openGateway();
+    link.BindGateway("motcom");
+    clock.runFor(0);
+    EXPECT_EQ(gateway.connections(), 1);
+}
+
 TEST_F(GatewayLinkTest, SendsEveryMotionOperationWithItsArguments) {
     bringUp();
     link.SetDriveControlMode(1, 2);

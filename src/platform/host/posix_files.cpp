@@ -81,6 +81,12 @@ std::optional<std::string> PosixFiles::read(const std::string& path) {
 }
 
 bool PosixFiles::writeWhole(const std::string& path, const std::string& content) {
+    if (replace(path, content)) return true;
+    if (onWriteFailed) onWriteFailed(path);
+    return false;
+}
+
+bool PosixFiles::replace(const std::string& path, const std::string& content) {
     const std::string target = followed(path);
     std::string temporary = target + ".XXXXXX";
     FileHandle handle(::mkostemp(temporary.data(), O_CLOEXEC));

@@ -5,6 +5,8 @@
 // written through, the old file's permissions stay. Folders that it creates are the user's own (0700).
 #pragma once
 
+#include <functional>
+
 #include "platform/files.h"
 
 namespace quorrin {
@@ -19,6 +21,12 @@ class PosixFiles : public Files {
     bool createFolder(const std::string& path) override;
     bool copy(const std::string& from, const std::string& to) override;
     std::vector<std::string> filesIn(const std::string& folder) override;
+
+    // Told of each file that could not be written; the caller may not look at the result.
+    std::function<void(const std::string& path)> onWriteFailed;
+
+  private:
+    bool replace(const std::string& path, const std::string& content);
 };
 
 }  // namespace quorrin

@@ -4,7 +4,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
+#include <ctime>
 
 #include "platform/host/lock_window.h"
 
@@ -12,7 +14,7 @@ namespace quorrin {
 
 namespace {
 
-// In the grandchild, between fork and exec: only calls that are safe there.
+// In the child, between fork and exec: only calls that are safe there.
 [[noreturn]] void becomeProgram(const char* path) {
     ::setsid();
     sigset_t none;
@@ -28,17 +30,31 @@ namespace {
 
 }  // namespace
 
-void PosixPrograms::start(const std::string& path) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-        // A second fork leaves the program to init, so that nobody has to collect it.
-        if (::fork() == 0) becomeProgram(path.c_str());
-        ::_exit(0);
+PosixPrograms::~PosixPrograms() {
+    constexpr int kLooks = 200;
+    constexpr timespec kPause{0, 5'000'000};
+    collect();
+    for (int i = 0; i < kLooks && !started_.empty(); ++i) {
+        ::nanosleep(&kPause, nullptr);
+        collect();
     }
-    if (child > 0) ::waitpid(child, nullptr, 0);
+}
+
+void PosixPrograms::start(const std::string& path) {
+    collect();
+    const pid_t child = ::fork();
+    if (child == 0) becomeProgram(path.c_str());
+    if (child > 0) started_.push_back(child);
+}
+
+void PosixPrograms::collect() {
+    started_.erase(std::remove_if(started_.begin(), started_.end(),
+                                  [](pid_t child) { return ::waitpid(child, nullptr, WNOHANG) != 0; }),
+                   started_.end());
 }
 
 Programs::Window PosixPrograms::findWindow(const std::string& title) {
+    collect();
     const Window window = windowHolder(runFolder_, title);
     if (window != 0) titles_[window] = title;
     return window;

@@ -4,11 +4,18 @@
 // environment, and nothing to read or write on: it keeps a log of its own. A Window is its process id. Asking
 // a window to close is SIGTERM to the process that holds the title's lock at that moment.
 //
+// Started programs are collected when they end. The destructor waits up to a second for those that are still
+// there, so that a station that has asked its gateways to close leaves nothing behind; after that they are on
+// their own.
+//
 // The caller's process must not itself hold a window lock of the same run folder and title.
 #pragma once
 
+#include <sys/types.h>
+
 #include <map>
 #include <string>
+#include <vector>
 
 #include "platform/programs.h"
 
@@ -17,6 +24,9 @@ namespace quorrin {
 class PosixPrograms : public Programs {
   public:
     explicit PosixPrograms(std::string runFolder) : runFolder_(std::move(runFolder)) {}
+    ~PosixPrograms() override;
+    PosixPrograms(const PosixPrograms&) = delete;
+    PosixPrograms& operator=(const PosixPrograms&) = delete;
 
     void start(const std::string& path) override;
     Window findWindow(const std::string& title) override;
@@ -24,7 +34,10 @@ class PosixPrograms : public Programs {
     void postClose(Window window) override;
 
   private:
+    void collect();
+
     std::string runFolder_;
+    std::vector<pid_t> started_;            // and not collected yet
     std::map<Window, std::string> titles_;  // of the windows that were found
 };
 

@@ -1,0 +1,52 @@
+// The real ports that a station stands on, for the mains of the two stations: folders, files, clock, links,
+// programs. Composes, decides nothing.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/host/host_folders.h"
+#include "platform/host/lock_window.h"
+#include "platform/host/posix_files.h"
+#include "platform/host/posix_programs.h"
+#include "platform/host/station_window.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_streams.h"
+#include "robotlink/gateway_link.h"
+#include "session/first_start.h"
+
+namespace quorrin {
+
+struct RealStation {
+    HostFolders host = hostFolders();
+    PosixFiles files;
+    // "" when all folders are there, else the one that cannot be made.
+    std::string missingFolder = createHostFolders(files, host);
+    QtClock clock;
+    QtStreams streams{clock, host.run};
+    PosixPrograms programs{host.run};
+    LockWindow window{host.run, kStationTitle};
+    GatewayLink myRobot{clock, streams, files};
+    GatewayLink robotTI{clock, streams, files};
+
+    // Makes this the one station of its data folder; waits up to 10 s for one that is closing. False when
+    // another one lives.
+    bool claim() {
+        constexpr int kWaits = 200;
+        constexpr int kWaitMs = 50;
+        WindowClaim claimed = window.claim();
+        for (int i = 0; i < kWaits && claimed == WindowClaim::otherClosing; ++i) {
+            clock.block(kWaitMs);
+            claimed = window.claim();
+        }
+        return claimed == WindowClaim::taken;
+    }
+
+    // Fills the application folder; one line for each thing that could not be supplied.
+    std::vector<std::string> firstStart() {
+        return fillApplicationFolder(files, host.folders.application, host.share)
+            .complaints(host.folders.application, host.share);
+    }
+};
+
+}  // namespace quorrin
