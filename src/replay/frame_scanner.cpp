@@ -1,5 +1,7 @@
 #include "replay/frame_scanner.h"
 
+#include <cstring>
+
 #include "replay/script_limits.h"
 
 namespace quorrin {
@@ -17,17 +19,15 @@ class Scanner {
         return true;
     }
 
-    // A text without escapes and without anything but printable ASCII.
+    // What stands between two quotes. An escape in it is not resolved: such a text is no name that is known,
+    // and the whole line goes to the parser.
     bool text(std::string_view& out) {
         if (!take('"')) return false;
-        const char* start = at_;
-        while (at_ != end_ && *at_ != '"') {
-            if (*at_ == '\\' || *at_ < 0x20 || *at_ > 0x7E) return false;
-            ++at_;
-        }
-        if (at_ == end_) return false;
-        out = std::string_view(start, static_cast<std::size_t>(at_ - start));
-        ++at_;
+        const void* quote = std::memchr(at_, '"', static_cast<std::size_t>(end_ - at_));
+        if (quote == nullptr) return false;
+        const char* close = static_cast<const char*>(quote);
+        out = std::string_view(at_, static_cast<std::size_t>(close - at_));
+        at_ = close + 1;
         return true;
     }
 

@@ -79,23 +79,28 @@ std::size_t utf8CharacterLength(std::string_view text) {
 }
 
 void appendText(std::string& out, std::string_view text) {
+    const auto plain = [](char c) { return c >= 0x20 && c < 0x7F && c != '"' && c != '\\'; };
     out += '"';
     while (!text.empty()) {
+        // Nearly all texts are one run of plain characters.
+        std::size_t length = 0;
+        while (length < text.size() && plain(text[length])) ++length;
+        out.append(text.data(), length);
+        text.remove_prefix(length);
+        if (text.empty()) break;
+
         const char c = text.front();
-        std::size_t length = 1;
+        length = utf8CharacterLength(text);
         if (c == '"' || c == '\\') {
             out += '\\';
             out += c;
         } else if (static_cast<unsigned char>(c) < 0x20) {
             appendControlCharacter(out, c);
+        } else if (length == 0) {
+            out += "\xEF\xBF\xBD";
+            length = 1;
         } else {
-            length = utf8CharacterLength(text);
-            if (length == 0) {
-                out += "\xEF\xBF\xBD";
-                length = 1;
-            } else {
-                out.append(text.data(), length);
-            }
+            out.append(text.data(), length);
         }
         text.remove_prefix(length);
     }

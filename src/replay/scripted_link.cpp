@@ -30,11 +30,14 @@ void ScriptedLink::setSound(std::string bytes) {
 }
 
 std::string& ScriptedLink::begin(const char* operation) {
+    // Fixed names that need no escaping.
     output_.begin();
-    output_.addText("link", linkText(name_));
-    output_.addText("op", operation);
-    std::string& out = output_.addRaw("args");
-    out += '[';
+    std::string& out = output_.addRaw("link");
+    out += '"';
+    out += linkText(name_);
+    out += "\", \"op\": \"";
+    out += operation;
+    out += "\", \"args\": [";
     return out;
 }
 
