@@ -37,7 +37,7 @@ SteeringTarget steer(const SteeringCommand& command, Integer joystickY, DriveVal
         offset = GeneralConstants::kPi - offset;
         speedFraction /= 2.0;
     }
-    return {offset, speedFraction};
+    return {offset, speedFraction, steerFraction};
 }
 
 }  // namespace quorrin

@@ -24,8 +24,9 @@ struct SteeringCommand {
 };
 
 struct SteeringTarget {
-    double offset;         // radians off the nose; beyond a quarter turn when driving tail first
-    double speedFraction;  // of the full scale
+    double offset = 0;         // radians off the nose; beyond a quarter turn when driving tail first
+    double speedFraction = 0;  // of the full scale
+    double steerFraction = 0;  // of full steering, left positive
 };
 
 // The operator's levels, or the wander: straight ahead at the speed of its box.

@@ -60,13 +60,13 @@ void Teleoperation::ConTimer_Timer(Long /*lMilliseconds*/) {
 
 void Teleoperation::nextpoint() {
     if (!navigator_) throw ProgramError("Teleoperation: no navigator");
-    const SteeringTarget target = steer(readCommand(values_, controls_), values_.joystickY, values_);
-    const double bearing = values_.robotTheta + target.offset;
+    target_ = steer(readCommand(values_, controls_), values_.joystickY, values_);
+    const double bearing = values_.robotTheta + target_.offset;
     navigator_->TargetX = values_.robotX + std::cos(bearing) * targetDistance;
     navigator_->TargetY = values_.robotY + std::sin(bearing) * targetDistance;
     navigator_->finalPosture = false;
     navigator_->nonstop = true;
-    navigator_->TargetForwardspeed = maxforwardspeed * target.speedFraction;
+    navigator_->TargetForwardspeed = maxforwardspeed * target_.speedFraction;
     navigator_->timeInterval = kNavigatorPeriodMs;
     navigator_->lowerTolerance = kArrivalRadius_m;
     navigator_->forgetable = false;

@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "base/checked_int.h"
+#include "navigation/next_point.h"
 #include "navigation/speed_p2p_vfh.h"
 #include "platform/timer_mm.h"
 #include "robotlink/quorrin_sdk.h"
@@ -37,6 +38,9 @@ class Teleoperation {
     void nextpoint();
 
     bool active() const { return active_; }
+    // Of the last step.
+    double speedFraction() const { return target_.speedFraction; }
+    double steerFraction() const { return target_.steerFraction; }
     // The held navigator; null before run and after task_end.
     const speedP2PVFH* navigator() const { return navigator_.get(); }
 
@@ -46,6 +50,7 @@ class Teleoperation {
     NavigationControls& controls_;
     QuorrinSDK& myRobot_;
     bool active_ = false;
+    SteeringTarget target_;
     std::unique_ptr<TimerMM> ConTimer_;
     std::unique_ptr<speedP2PVFH> navigator_;
 };

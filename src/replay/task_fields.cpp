@@ -100,6 +100,8 @@ static void addTeleoperationFields(FieldTable& table, const Station& station) {
     QUORRIN_TASK_FIELD("Teleoperation", "maxforwardspeed", task.maxforwardspeed);
     QUORRIN_TASK_FIELD("Teleoperation", "maxTurnspeed", task.maxTurnspeed);
     QUORRIN_TASK_FIELD("Teleoperation", "active", task.active());
+    QUORRIN_TASK_FIELD("Teleoperation", "speedFraction", task.speedFraction());
+    QUORRIN_TASK_FIELD("Teleoperation", "steerFraction", task.steerFraction());
 }
 
 void addTaskFields(FieldTable& table, const Station& station) {

@@ -1,0 +1,113 @@
+// The program as the command line sees it, with real files in a temporary folder.
+#include "replay/replay_program.h"
+
+#include <gmock/gmock.h>
+
+#include "platform/host/posix_files.h"
+#include "platform/host/temporary_folder.h"
+
+namespace quorrin {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Outcome {
+    int status = 0;
+    std::string out;
+    std::string err;
+};
+
+Outcome run(const std::vector<std::string>& arguments) {
+    Outcome outcome;
+    std::FILE* out = std::tmpfile();
+    std::FILE* err = std::tmpfile();
+    outcome.status = replayProgram(arguments, out, err);
+    for (auto [file, text] : {std::pair(out, &outcome.out), std::pair(err, &outcome.err)}) {
+        std::rewind(file);
+        for (int c = std::fgetc(file); c != EOF; c = std::fgetc(file)) *text += static_cast<char>(c);
+        std::fclose(file);
+    }
+    return outcome;
+}
+
+class ReplayProgram : public testing::Test {
+  protected:
+    std::string script(const std::string& text) {
+        EXPECT_TRUE(files.writeWhole(path("script.jsonl"), text));
+        return path("script.jsonl");
+    }
+    std::string path(const std::string& name) const { return folder.path() + "/" + name; }
+
+    TemporaryFolder folder;
+    PosixFiles files;
+};
+
+TEST_F(ReplayProgram, HelpAndVersionEndWell) {
+    EXPECT_EQ(run({"--help"}).status, 0);
+    EXPECT_THAT(run({"--help"}).out, HasSubstr("usage: quorrin-replay"));
+    EXPECT_THAT(run({"--version"}).out, StartsWith("quorrin-replay "));
+}
+
+TEST_F(ReplayProgram, AWrongCommandLineIsToldInOneLine) {
+    const Outcome outcome = run({"--quick"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.err, "quorrin-replay: unknown option --quick (--help tells the rest)\n");
+    EXPECT_EQ(outcome.out, "");
+}
+
+TEST_F(ReplayProgram, AMissingScriptIsNamed) {
+    const Outcome outcome = run({path("none.jsonl")});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.err, HasSubstr("none.jsonl: cannot be opened"));
+}
+
+TEST_F(ReplayProgram, FillsTheApplicationFolderAndItsInnerFolders) {
+    const Outcome outcome = run({"--app", path("app"), script("{\"t\": 0, \"answer\": \"no\"}\n")});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_TRUE(files.folderExists(path("app/windows")));
+    EXPECT_TRUE(files.folderExists(path("app/tempVoice")));
+    EXPECT_TRUE(files.folderExists(path("app/catchdata")));
+    EXPECT_TRUE(files.fileExists(path("app/Quorrinsdk.ini")));
+}
+
+TEST_F(ReplayProgram, TheLoginWritesTheProfileFilesOfTheGateways) {
+    const Outcome outcome =
+        run({"--app", path("app"),
+             script("{\"t\": 0, \"login\": true}\n{\"t\": 150, \"click\": \"frmLogin.cmdOK\"}\n")});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_THAT(files.read(path("app/windows/gateway_mot.ini")).value_or(""), HasSubstr("WiFiPort=10001"));
+    EXPECT_THAT(files.read(path("app/windows/gateway_ti.ini")).value_or(""), HasSubstr("WiFiPort=10002"));
+}
+
+TEST_F(ReplayProgram, ABrokenScriptNamesLineAndReason) {
+    const Outcome outcome =
+        run({"--app", path("app"), script("# one\n{\"t\": 5, \"click\": \"cmdNope\"}\n")});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.err, HasSubstr("script.jsonl: line 2: unknown control \"cmdNope\"\n"));
+    EXPECT_THAT(outcome.out, HasSubstr("\"start\": \"QuorrinGatewayTI\""));
+}
+
+TEST_F(ReplayProgram, AProgramErrorIsStatusThree) {
+    const Outcome outcome =
+        run({"--app", path("app"),
+             script("{\"t\": 1200, \"frame\": \"MotorFrame\", \"EncoderSpeedRight\": -1}\n"
+                    "{\"t\": 1210, \"click\": \"cmdStart\"}\n"
+                    "{\"t\": 1900, \"answer\": \"no\"}\n")});
+    EXPECT_EQ(outcome.status, 3) << outcome.out;
+    EXPECT_THAT(outcome.out, HasSubstr("\"fatal\": "));
+}
+
+TEST_F(ReplayProgram, NothingOfATemporaryApplicationFolderStays) {
+    const std::string watch = "{\"t\": 1000, \"watch\": [\"sdkIniPath\"], \"every\": 9}\n";
+    const Outcome outcome = run({script(watch)});
+    EXPECT_EQ(outcome.status, 0);
+    const auto at = outcome.out.find("\"sdkIniPath\": \"");
+    ASSERT_NE(at, std::string::npos);
+    const std::string ini = outcome.out.substr(at + 15, outcome.out.find("/Quorrinsdk.ini\"") - at - 15);
+    EXPECT_FALSE(ini.empty());
+    EXPECT_FALSE(files.folderExists(ini));
+}
+
+}  // namespace
+}  // namespace quorrin
