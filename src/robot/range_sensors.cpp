@@ -22,9 +22,9 @@ constexpr double kVoltCentimetres = 21.6;
 constexpr double kVoltFloor = 0.17;
 constexpr int kAdcLargest = 4095;
 
-constexpr double kIrNoise = 0.008;  // of the range
-constexpr double kIrNoise_adc = 3.0;
-constexpr double kSonarNoise_m = 0.004;
+constexpr double kIrNoise = 0.015;  // of the range
+constexpr double kIrNoise_adc = 8.0;
+constexpr double kSonarNoise_m = 0.01;
 constexpr double kHumanNoise = 25.0;
 
 constexpr double kHumanReach_m = 2.4;
@@ -148,7 +148,7 @@ RangeReadings RangeSensors::read(const Pose& robot, const std::vector<Segment>& 
             range = cast(from, robot.heading + mount.heading + across, range, near_);
         }
         sonarRange_[i] = range;
-        if (noise != nullptr) range += kSonarNoise_m * noise->gauss();
+        if (noise != nullptr && range < kSonarReach_m) range += kSonarNoise_m * noise->gauss();
         range = std::clamp(range, kSonarBlind_m, kSonarReach_m);
         readings.sonarCm[i] = static_cast<int>(std::nearbyint(range * 100.0));
     }
