@@ -4,6 +4,30 @@
 
 namespace quorrin {
 
+namespace {
+
+template <typename Kind>
+bool is(const Control& control) {
+    return dynamic_cast<const Kind*>(&control) != nullptr;
+}
+
+}  // namespace
+
+const char* controlKind(const Control& control) {
+    if (is<CommandButton>(control)) return "button";
+    if (is<TextBox>(control)) return "text";
+    if (is<CheckBox>(control)) return "check";
+    if (is<OptionButton>(control)) return "option";
+    if (is<Slider>(control)) return "slider";
+    if (is<ComboBox>(control)) return "dropdown";
+    if (is<ListBox>(control)) return "list";
+    if (is<Shape>(control)) return "lamp";
+    if (is<Picture>(control)) return "picture";
+    if (is<Frame>(control)) return "frame";
+    if (is<Timer>(control)) return "timer";
+    return "label";
+}
+
 void appendControl(std::string& out, const Control& control) {
     if (const auto* slider = dynamic_cast<const Slider*>(&control)) {
         appendWhole(out, slider->value());

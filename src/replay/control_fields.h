@@ -8,4 +8,8 @@ namespace quorrin {
 
 void appendControl(std::string& out, const Control& control);
 
+// "button", "text", "label", "check", "option", "slider", "dropdown", "list", "lamp", "picture", "frame",
+// "timer".
+const char* controlKind(const Control& control);
+
 }  // namespace quorrin

@@ -31,7 +31,7 @@ class Arguments {
 };
 
 void checkTogether(const ReplayOptions& options, std::string& complaint) {
-    if (!complaint.empty() || options.help || options.version) return;
+    if (!complaint.empty() || options.help || options.version || options.names) return;
     if (options.robotSite) {
         if (!(options.minutes > 0)) complaint = "--robot needs --minutes, more than 0";
         if (!options.report) complaint = "--robot needs --report";
@@ -73,6 +73,8 @@ ReplayOptions parseReplayOptions(const std::vector<std::string>& arguments, std:
             options.help = true;
         } else if (argument == "--version") {
             options.version = true;
+        } else if (argument == "--names") {
+            options.names = true;
         } else if (argument == "--app") {
             options.app = rest.value(argument);
             if (options.app->empty() && complaint.empty()) complaint = "--app needs a folder";
@@ -126,6 +128,7 @@ const char* replayHelp() {
            "  --scenario FILE  faults of the simulated robot, timed\n"
            "  --minutes M      virtual minutes to run\n"
            "  --report         print one JSON object at the end and nothing else\n"
+           "  --names          list the controls and fields that a script may name, one JSON object a line\n"
            "  --help, --version\n"
            "\n"
            "Exit status: 0 end of the script, or of the station by its shutdown routine; 2 a script or a "

@@ -13,6 +13,7 @@ namespace quorrin {
 struct ReplayOptions {
     bool help = false;
     bool version = false;
+    bool names = false;              // list what a script may name
     std::optional<std::string> app;  // as given
     CivilTime date{2026, 11, 20, 9, 0, 0};
     std::optional<std::string> script;  // "-" is standard input

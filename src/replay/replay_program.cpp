@@ -56,6 +56,15 @@ bool prepareFolders(Files& files, const std::string& application, Folders& folde
     return true;
 }
 
+// Everything that a script may name, from a station that is built and never started.
+int listNames(std::FILE* out) {
+    PosixFiles files;
+    LineReader noScript(nullptr);
+    ReplayRun run(ReplaySetup{files, {}, {}, ""}, noScript, nullptr);
+    std::fputs(namesText(run.station()).c_str(), out);
+    return 0;
+}
+
 int replayScript(const ReplayOptions& options, std::FILE* out, std::FILE* err) {
     const std::string& script = *options.script;
     const OpenFile file = openScript(script);
@@ -93,6 +102,7 @@ int replayProgram(const std::vector<std::string>& arguments, std::FILE* out, std
         std::fprintf(out, "quorrin-replay %s\n", QUORRIN_VERSION);
         return 0;
     }
+    if (options.names) return listNames(out);
     if (options.robotSite) return complain(err, "--robot is not built yet");
     return replayScript(options, out, err);
 }

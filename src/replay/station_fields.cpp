@@ -2,6 +2,7 @@
 
 #include "base/program_error.h"
 #include "replay/control_fields.h"
+#include "replay/json_text.h"
 #include "replay/record_fields.h"
 
 namespace quorrin {
@@ -32,6 +33,26 @@ std::optional<FieldPrinter> StationFields::find(const std::string& name) const {
     if (const Control* control = findControl(station_, name))
         return [control](std::string& out) { appendControl(out, *control); };
     return std::nullopt;
+}
+
+std::string namesText(Station& station) {
+    std::string out;
+    for (const Form* form : station.forms()) {
+        const std::string prefix = form == &station.gui ? "" : form->name() + ".";
+        for (const Control* control : form->controls()) {
+            out += "{\"control\": ";
+            appendText(out, prefix + control->name());
+            out += ", \"kind\": ";
+            appendText(out, controlKind(*control));
+            out += "}\n";
+        }
+    }
+    for (const std::string& name : StationFields(station).table().names()) {
+        out += "{\"field\": ";
+        appendText(out, name);
+        out += "}\n";
+    }
+    return out;
 }
 
 void addFormFields(FieldTable& table, const frmGUI& gui) {

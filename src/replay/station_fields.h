@@ -25,6 +25,9 @@ class StationFields {
     FieldTable table_;
 };
 
+// All of them, one JSON object a line: {"control": name, "kind": kind} and {"field": name}.
+std::string namesText(Station& station);
+
 // The pieces of it.
 void addFormFields(FieldTable& table, const frmGUI& gui);
 void addTaskFields(FieldTable& table, const Station& station);
