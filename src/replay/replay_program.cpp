@@ -4,6 +4,7 @@
 
 #include "platform/host/host_folders.h"
 #include "platform/host/posix_files.h"
+#include "platform/host/stopwatch.h"
 #include "platform/host/temporary_folder.h"
 #include "replay/replay_options.h"
 #include "replay/replay_run.h"
@@ -18,6 +19,10 @@ constexpr int kUnusable = 2;
 int complain(std::FILE* err, const std::string& what) {
     std::fprintf(err, "quorrin-replay: %s\n", what.c_str());
     return kUnusable;
+}
+
+std::string errorText(const std::string& script, const ScriptError& error) {
+    return script + ": line " + std::to_string(error.line) + ": " + error.reason;
 }
 
 struct CloseFile {
@@ -65,26 +70,78 @@ int listNames(std::FILE* out) {
     return 0;
 }
 
+struct Application {
+    PosixFiles files;
+    std::unique_ptr<TemporaryFolder> temporary;
+    Folders folders;
+};
+
+// The application folder, a temporary one where none is asked for. False with a complaint printed.
+bool prepareApplication(const ReplayOptions& options, Application& application, std::FILE* err) {
+    if (!options.app) application.temporary = std::make_unique<TemporaryFolder>();
+    const std::string folder = options.app ? absolutePath(*options.app) : application.temporary->path();
+    if (folder.empty()) {
+        complain(err, "no temporary folder can be made");
+        return false;
+    }
+    return prepareFolders(application.files, folder, application.folders, err);
+}
+
 int replayScript(const ReplayOptions& options, std::FILE* out, std::FILE* err) {
     const std::string& script = *options.script;
     const OpenFile file = openScript(script);
     if (!file) return complain(err, script + ": cannot be opened");
-
-    PosixFiles files;
-    std::unique_ptr<TemporaryFolder> temporary;
-    if (!options.app) temporary = std::make_unique<TemporaryFolder>();
-    const std::string application = temporary ? temporary->path() : absolutePath(*options.app);
-    if (application.empty()) return complain(err, "no temporary folder can be made");
-    Folders folders;
-    if (!prepareFolders(files, application, folders, err)) return kUnusable;
+    Application application;
+    if (!prepareApplication(options, application, err)) return kUnusable;
 
     LineReader lines(file.get());
-    ReplayRun run(ReplaySetup{files, folders, options.date, folderOf(script)}, lines, out);
+    ReplayRun run({application.files, application.folders, options.date, folderOf(script)}, lines, out);
     const ReplayEnd end = run.run();
-    if (end == ReplayEnd::badScript) {
-        complain(err, script + ": line " + std::to_string(run.error().line) + ": " + run.error().reason);
-    }
+    if (end == ReplayEnd::badScript) complain(err, errorText(script, run.error()));
     if (!run.output().good()) return complain(err, "the output cannot be written");
+    return static_cast<int>(end);
+}
+
+// Site and scenario as files; false with a complaint printed.
+bool readRobot(const ReplayOptions& options, Files& files, RobotSetup& robot, std::FILE* err) {
+    try {
+        const bool file = options.robotSite->find('/') != std::string::npos;
+        robot.site = loadSite(file ? absolutePath(*options.robotSite) : *options.robotSite,
+                              hostFolders().share + "/sites", files);
+        robot.seed = options.seed;
+        if (!options.scenario) return true;
+        const auto text = files.read(absolutePath(*options.scenario));
+        if (!text) throw SiteError(*options.scenario + ": cannot be read");
+        robot.scenario = parseScenario(*text, *options.scenario);
+        return true;
+    } catch (const SiteError& error) {
+        complain(err, error.what());
+        return false;
+    }
+}
+
+int replayRobot(const ReplayOptions& options, std::FILE* out, std::FILE* err) {
+    const std::string script = options.script.value_or("(no script)");
+    const OpenFile file = options.script ? openScript(script) : OpenFile(std::fopen("/dev/null", "rb"));
+    if (!file) return complain(err, script + ": cannot be opened");
+    Application application;
+    RobotSetup robot;
+    if (!readRobot(options, application.files, robot, err)) return kUnusable;
+    if (!prepareApplication(options, application, err)) return kUnusable;
+
+    LineReader lines(file.get());
+    const std::string folder = options.script ? folderOf(script) : absolutePath(".");
+    const auto robotMs = static_cast<std::int64_t>(options.minutes * 60'000);
+    ReplayRun run({application.files, application.folders, options.date, folder, &robot, robotMs}, lines,
+                  nullptr);
+    const Stopwatch stopwatch;
+    const ReplayEnd end = run.run();
+    if (end == ReplayEnd::badScript) return complain(err, errorText(script, run.error()));
+    if (end == ReplayEnd::programError)
+        complain(err, "the station ended by a program error: " + run.fatalText());
+    const std::string report = run.robot()->report(stopwatch.seconds());
+    if (std::fputs(report.c_str(), out) < 0 || std::fflush(out) != 0)
+        return complain(err, "the output cannot be written");
     return static_cast<int>(end);
 }
 
@@ -103,7 +160,7 @@ int replayProgram(const std::vector<std::string>& arguments, std::FILE* out, std
         return 0;
     }
     if (options.names) return listNames(out);
-    if (options.robotSite) return complain(err, "--robot is not built yet");
+    if (options.robotSite) return replayRobot(options, out, err);
     return replayScript(options, out, err);
 }
 

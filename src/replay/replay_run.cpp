@@ -34,21 +34,26 @@ ReplayRun::ReplayRun(const ReplaySetup& setup, LineReader& script, std::FILE* ou
       output_(clock_, out),
       myRobot_(LinkName::myRobot, output_, setup.files, setup.folders.application),
       robotTI_(LinkName::robotTI, output_, setup.files, setup.folders.application),
-      station_(StationPorts{clock_, setup.files, programs_, boxes_, myRobot_, robotTI_, setup.folders,
-                            [] { throw ProgramEnd{}; }}),
+      station_(ports()),
       fields_(station_),
       operator_(station_) {
     clock_.setEventCap(kEventCap);
+    if (robot_) {
+        output_.stop();
+        robot_->observe(station_);
+    }
     programs_.onStart = [this](const std::string& name) {
         output_.begin();
         output_.addText("start", name);
         output_.end();
+        if (robot_) robot_->programStarted(name);
     };
     programs_.onClose = [this](const std::string& title, bool found) {
         output_.begin();
         output_.addText("close", title);
         output_.addBoolean("found", found);
         output_.end();
+        if (robot_ && found) robot_->windowClosed(title);
     };
     boxes_.onShow = [this](const std::string& text, const std::string& title, BoxAnswer answer) {
         output_.begin();
@@ -57,6 +62,18 @@ ReplayRun::ReplayRun(const ReplaySetup& setup, LineReader& script, std::FILE* ou
         output_.addText("answer", boxAnswerText(answer));
         output_.end();
     };
+}
+
+StationPorts ReplayRun::ports() {
+    if (setup_.robot != nullptr) robot_.emplace(clock_, setup_.files, *setup_.robot);
+    return {clock_,
+            setup_.files,
+            programs_,
+            boxes_,
+            robot_ ? robot_->myRobot() : myRobot_,
+            robot_ ? robot_->robotTI() : robotTI_,
+            setup_.folders,
+            [] { throw ProgramEnd{}; }};
 }
 
 ReplayRun::~ReplayRun() {
@@ -79,6 +96,7 @@ ReplayEnd ReplayRun::run() {
         output_.begin();
         output_.addText("fatal", error.what());
         output_.end();
+        fatalText_ = error.what();
         end = ReplayEnd::programError;
     }
     output_.stop();
@@ -98,8 +116,8 @@ void ReplayRun::play() {
         station_.startAtMainForm();
         if (any) enqueue();
     }
-    while (waiting_) clock_.runUntil(next_.line.timeMs);
-    clock_.runUntil(lastTimeMs_);
+    while (lineIsDue()) clock_.runUntil(next_.line.timeMs);
+    clock_.runUntil(robot_ ? setup_.robotMs : lastTimeMs_);
 }
 
 // Reads the next line that asks for something into next_; false at the end of the script. A line that cannot
@@ -118,6 +136,9 @@ bool ReplayRun::readLine() {
     try {
         if (!text) throw ScriptError{number, "cannot be read"};
         parseScriptLine(*text, number, line);
+        if (robot_ && (std::holds_alternative<FrameLine>(line.what) ||
+                       std::holds_alternative<FrameFileLine>(line.what)))
+            throw ScriptError{number, "frames come from the simulated robot, not from the script"};
         if (line.timeMs < lastTimeMs_) {
             throw ScriptError{number, "\"t\" goes back from " + std::to_string(lastTimeMs_) + " to " +
                                           std::to_string(line.timeMs)};

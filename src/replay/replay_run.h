@@ -20,6 +20,7 @@
 #include "replay/line_reader.h"
 #include "replay/operator_actions.h"
 #include "replay/output.h"
+#include "replay/robot_world.h"
 #include "replay/script_error.h"
 #include "replay/scripted_link.h"
 #include "replay/station_fields.h"
@@ -34,6 +35,9 @@ struct ReplaySetup {
     CivilTime wallAtZero;
     // Where the files that the script names begin, without a trailing "/".
     std::string scriptFolder;
+    // With a simulated robot nothing is printed, and the run goes on to robotMs whatever the script says.
+    const RobotSetup* robot = nullptr;
+    std::int64_t robotMs = 0;
 };
 
 enum class ReplayEnd : int {
@@ -56,6 +60,10 @@ class ReplayRun {
     Output& output() { return output_; }
     std::int64_t nowMs() const { return clock_.nowMs(); }
     Station& station() { return station_; }
+    // Null without a simulated robot.
+    RobotWorld* robot() { return robot_ ? &*robot_ : nullptr; }
+    // The text of the program error that ended the run.
+    const std::string& fatalText() const { return fatalText_; }
 
   private:
     struct ReadLine {
@@ -63,7 +71,9 @@ class ReplayRun {
         std::optional<ScriptError> broken;  // why it cannot be used
     };
 
+    StationPorts ports();
     void play();
+    bool lineIsDue() const { return waiting_ && (!robot_ || next_.line.timeMs <= setup_.robotMs); }
     bool readLine();
     void enqueue();
     void feed();
@@ -84,6 +94,7 @@ class ReplayRun {
     ScriptedBoxes boxes_;
     ScriptedLink myRobot_;
     ScriptedLink robotTI_;
+    std::optional<RobotWorld> robot_;
     Station station_;
     StationFields fields_;
     OperatorActions operator_;
@@ -97,6 +108,7 @@ class ReplayRun {
     // A line that could not be used was reached while another one was being performed.
     std::optional<ScriptError> refused_;
     ScriptError error_;
+    std::string fatalText_;
 };
 
 }  // namespace quorrin

@@ -109,5 +109,20 @@ TEST_F(ReplayProgram, NothingOfATemporaryApplicationFolderStays) {
     EXPECT_FALSE(files.folderExists(ini));
 }
 
+TEST_F(ReplayProgram, ReportsOfASimulatedRobotAndPrintsNothingElse) {
+    const Outcome outcome = run({"--robot", QUORRIN_SOURCE_DIR "/share/sites/hall.json", "--seed", "7",
+                                 "--minutes", "0.5", "--report"});
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    EXPECT_THAT(outcome.out, testing::MatchesRegex("\\{\"distance\": [^\n]*, \"speedup\": [^\n]*\\}\n"));
+}
+
+TEST_F(ReplayProgram, ASiteOrScenarioThatCannotBeUsedIsTold) {
+    EXPECT_EQ(run({"--robot", "moon", "--minutes", "1", "--report"}).status, 2);
+    const Outcome outcome = run({"--robot", QUORRIN_SOURCE_DIR "/share/sites/hall.json", "--scenario",
+                                 script("{\"t\": 1, \"fault\": \"rain\"}\n"), "--minutes", "1", "--report"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_THAT(outcome.err, HasSubstr("rain"));
+}
+
 }  // namespace
 }  // namespace quorrin
