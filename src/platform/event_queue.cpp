@@ -51,6 +51,13 @@ void EventQueue::removeTimer(const std::shared_ptr<TimerNode>& node) {
     timers_.erase(std::remove(timers_.begin(), timers_.end(), node), timers_.end());
 }
 
+void EventQueue::clear() {
+    while (!outside_.empty() || !messages_.empty()) {
+        const std::deque<Item> outside = std::exchange(outside_, {});
+        const std::deque<Item> messages = std::exchange(messages_, {});
+    }
+}
+
 std::optional<EventQueue::Choice> EventQueue::choose(std::int64_t limitMs, bool withWatches) const {
     std::optional<Choice> best;
     const auto offer = [&](const Key& key) { return key.dueMs <= limitMs && (!best || key < best->key); };

@@ -75,6 +75,10 @@ class EventQueue {
     // Gives the node its place behind all timers enabled so far.
     void takeOrder(TimerNode& node) { node.order = ++lastOrder_; }
 
+    // Drops all outside events and messages. A clock calls it in its destructor, while it still works: what
+    // their handlers own may stop timers or post something as it goes.
+    void clear();
+
     // Due time of the first event that may be delivered now, watches left out unless asked for.
     std::optional<std::int64_t> nextDue(bool withWatches) const;
 
@@ -101,9 +105,10 @@ class EventQueue {
     static Item itemFor(std::int64_t dueMs, std::uint64_t order, EventSource* source, Handler handler);
     std::optional<Choice> choose(std::int64_t limitMs, bool withWatches) const;
 
+    // Before the items: what waits there may own timers.
+    std::vector<std::shared_ptr<TimerNode>> timers_;
     std::deque<Item> outside_;   // by due time, then by arrival
     std::deque<Item> messages_;  // by posting; due times never decrease
-    std::vector<std::shared_ptr<TimerNode>> timers_;
     std::uint64_t lastOrder_ = 0;
 };
 

@@ -326,20 +326,35 @@ TYPED_TEST_P(ClockContract, LetsAHandlersExceptionOut) {
     EXPECT_THROW(this->runUntil([] { return false; }), ProgramEnd);
 }
 
-REGISTER_TYPED_TEST_SUITE_P(ClockContract, MovesOnInABlockAndNeverGoesBackwards,
-                            FiresATimerOnItsGridAndNotBefore, DisablesAOneShotTimerBeforeItsHandlerRuns,
-                            LetsAOneShotTimerEnableItselfAnew, NeverFiresATimerWithoutAnInterval,
-                            NeverFiresADisabledTimer, RestartsARunningTimerFromNowOnANewInterval,
-                            LeavesAnEnabledTimerAloneThatIsEnabledAgain, DeliversOverdueTimersByDueTime,
-                            DeliversNothingInABlockAndOneLateEventForAllMissedPeriods,
-                            SuppressesATimerThatIsDestroyed, LetsATimerBeDestroyedInItsOwnHandler,
-                            LetsATimersHandlerSetAnotherHandler, LetsAHandlerSuppressATimerThatIsOverdue,
-                            DeliversAMessageAfterTheHandlerThatPostedIt,
-                            DeliversMessagesAndOutsideEventsInTheirOrders, DeliversInsideAYieldWhatIsDue,
-                            DoesNotEnterARunningTimerFromAYield,
-                            LetsAnEventWaitWhoseSourceIsRunningAndHoldsBackTheOutsideBehindIt,
-                            LetsAMessageWaitWhoseSourceIsRunningAndDeliversOthersBeforeIt,
-                            DropsTheWaitingEventsOfASourceThatIsDestroyed,
-                            RunsTheHookBeforeEachBlockAndNotBeforeAYield, LetsAHandlersExceptionOut);
+// The clock goes with the fixture, after this test.
+TYPED_TEST_P(ClockContract, MayEndWhileEventsWaitThatOwnTimersAndPostAsTheyGo) {
+    struct Owner {
+        explicit Owner(Clock& ofAll) : clock(ofAll), timer(ofAll) { timer.setEnabled(true); }
+        ~Owner() {
+            clock.post([] {});
+        }
+        Clock& clock;
+        TimerMM timer;
+    };
+    const auto waiting = [](const std::shared_ptr<Owner>&) {};
+    Clock& clock = this->clock();
+    clock.arrive([waiting, owner = std::make_shared<Owner>(clock)] { waiting(owner); });
+    clock.post([waiting, owner = std::make_shared<Owner>(clock)] { waiting(owner); });
+    SUCCEED();
+}
+
+REGISTER_TYPED_TEST_SUITE_P(
+    ClockContract, MovesOnInABlockAndNeverGoesBackwards, FiresATimerOnItsGridAndNotBefore,
+    DisablesAOneShotTimerBeforeItsHandlerRuns, LetsAOneShotTimerEnableItselfAnew,
+    NeverFiresATimerWithoutAnInterval, NeverFiresADisabledTimer, RestartsARunningTimerFromNowOnANewInterval,
+    LeavesAnEnabledTimerAloneThatIsEnabledAgain, DeliversOverdueTimersByDueTime,
+    DeliversNothingInABlockAndOneLateEventForAllMissedPeriods, SuppressesATimerThatIsDestroyed,
+    LetsATimerBeDestroyedInItsOwnHandler, LetsATimersHandlerSetAnotherHandler,
+    LetsAHandlerSuppressATimerThatIsOverdue, DeliversAMessageAfterTheHandlerThatPostedIt,
+    DeliversMessagesAndOutsideEventsInTheirOrders, DeliversInsideAYieldWhatIsDue,
+    DoesNotEnterARunningTimerFromAYield, LetsAnEventWaitWhoseSourceIsRunningAndHoldsBackTheOutsideBehindIt,
+    LetsAMessageWaitWhoseSourceIsRunningAndDeliversOthersBeforeIt,
+    DropsTheWaitingEventsOfASourceThatIsDestroyed, RunsTheHookBeforeEachBlockAndNotBeforeAYield,
+    LetsAHandlersExceptionOut, MayEndWhileEventsWaitThatOwnTimersAndPostAsTheyGo);
 
 }  // namespace quorrin

@@ -19,6 +19,7 @@ namespace quorrin {
 class QtClock : public Clock {
   public:
     QtClock();
+    ~QtClock() override { queue_.clear(); }
 
     std::int64_t nowMs() const override;
     CivilTime wallTime() const override;

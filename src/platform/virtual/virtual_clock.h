@@ -15,6 +15,7 @@ namespace quorrin {
 class VirtualClock : public Clock {
   public:
     explicit VirtualClock(const CivilTime& wallAtZero = {2026, 11, 20, 9, 0, 0});
+    ~VirtualClock() override { queue_.clear(); }
 
     std::int64_t nowMs() const override { return nowMs_; }
     CivilTime wallTime() const override;
