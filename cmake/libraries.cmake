@@ -41,5 +41,7 @@ target_compile_definitions(quorrin_qt PUBLIC QT_NO_KEYWORDS)
 
 quorrin_library(quorrin_gateway FOLDERS gateway LINK quorrin_wire)
 quorrin_library(quorrin_robot FOLDERS robot LINK quorrin_station quorrin_wire box2d::box2d nlohmann_json::nlohmann_json)
+# The simulated robot's window; the robot itself wants nothing of Qt.
+quorrin_library(quorrin_robot_window FOLDERS robot/window LINK quorrin_robot Qt6::Widgets)
 quorrin_library(quorrin_replay FOLDERS replay LINK quorrin_station quorrin_robot quorrin_virtual quorrin_host nlohmann_json::nlohmann_json)
 quorrin_library(quorrin_client FOLDERS client LINK quorrin_base)

@@ -1,0 +1,28 @@
+// The command line of quorrin-robot.
+//
+// Reads no file and no environment. An error is a text that names the argument.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace quorrin {
+
+struct RobotOptions {
+    std::string site = "office";
+    std::uint64_t seed = 1;
+    std::string scenario;  // files; "" for none
+    std::string truth;
+    std::string listen = "127.127.0.1";
+    int port = 10001;
+    bool headless = false;
+    bool help = false;
+    bool version = false;
+    std::string error;
+};
+
+RobotOptions parseRobotOptions(const std::vector<std::string>& arguments);
+std::string robotUsage();
+
+}  // namespace quorrin
