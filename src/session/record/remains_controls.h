@@ -1,5 +1,5 @@
-// Controls that stand on the main form without a handler or a reader: remains of the design that carry no
-// behaviour, kept so that the form is complete.
+// Controls that stand on the main form without a handler, a writer or a reader: remains of the design that
+// carry no behaviour, kept so that the form is complete.
 #pragma once
 
 #include "base/controls.h"
@@ -33,6 +33,19 @@ struct RemainsControls {
           OUT_EAngel(form, "OUT_EAngel"),
           txtParStep(form, "txtParStep"),
           txtAlarmCnt(form, "txtAlarmCnt"),
+          lblIO(form, "lblIO"),
+          lblGPS1(form, "lblGPS1"),
+          lblGPS2(form, "lblGPS2"),
+          lblGPS3(form, "lblGPS3"),
+          lblGPS4(form, "lblGPS4"),
+          lblsenid1(form, "lblsenid1"),
+          lblsenid2(form, "lblsenid2"),
+          lblsenid3(form, "lblsenid3"),
+          lblsenid4(form, "lblsenid4"),
+          lblChgCnt(form, "lblChgCnt"),
+          lblPingCnt(form, "lblPingCnt"),
+          lblBatVol(form, "lblBatVol"),
+          lblVoiceCommand(form, "lblVoiceCommand"),
           tmrHuman(form, "tmrHuman", clock, 5000) {}
 
     CommandButton p2pVFH;
@@ -60,6 +73,19 @@ struct RemainsControls {
     TextBox OUT_EAngel;
     TextBox txtParStep;
     TextBox txtAlarmCnt;
+    Label lblIO;
+    Label lblGPS1;
+    Label lblGPS2;
+    Label lblGPS3;
+    Label lblGPS4;
+    Label lblsenid1;
+    Label lblsenid2;
+    Label lblsenid3;
+    Label lblsenid4;
+    Label lblChgCnt;
+    Label lblPingCnt;
+    Label lblBatVol;
+    Label lblVoiceCommand;
     Timer tmrHuman;
 };
 
