@@ -5,35 +5,13 @@
 #include "base/program_error.h"
 #include "navigation/math/wheels.h"
 #include "navigation/speed_p2p_vfh.h"
-#include "support/navigation_station.h"
+#include "support/navigator_fixture.h"
 
 namespace quorrin {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-// A navigator with a target two metres ahead at 0.3 m/s, without heading search unless a test asks for it.
-class Navigator : public ::testing::Test, protected NavigationStation {
-  protected:
-    Navigator() {
-        task.TargetX = 2;
-        task.TargetForwardspeed = 0.3;
-        task.maxTurnspeed = 0.8;
-        task.lowerTolerance = 0.12;
-    }
-    void start() {
-        task.run();
-        link.take();
-    }
-    void tick() { task.RunTimer_Timer(100); }
-    static std::string velocities(int left, int right) {
-        return "SetDriveVelocities " + std::to_string(left) + " " + std::to_string(right) +
-               " -32768 -32768 -32768 -32768";
-    }
-    // 0.3 m/s are 4 rad/s at the wheels: 763.9 counts per second.
-    const std::string ahead = velocities(-764, 764);
-    speedP2PVFH task{clock, values, controls, link};
-};
+using Navigator = NavigatorFixture;
 
 TEST_F(Navigator, RunTakesVelocityModeAndStartsTheTimer) {
     task.targettime = 2.5;
@@ -257,90 +235,6 @@ TEST_F(Navigator, TailFirstMeasuresAtTheTailAndSwapsTheSides) {
     const int left = radPerSecToCounts(leftWheelRate(0.3, turn));
     const int right = radPerSecToCounts(rightWheelRate(0.3, turn));
     EXPECT_EQ(link.take(), Lines{velocities(right, -left)});
-}
-
-TEST_F(Navigator, WithoutSearchTheHeadingIsTheBearingAndTheWordStays) {
-    task.CAStatus = "stuck";
-    values.binaryHistogram.fill(1);
-    values.polarHistogram.fill(500);
-    start();
-    tick();
-    EXPECT_EQ(task.CAStatus, "stuck");
-    EXPECT_EQ(link.take(), Lines{ahead});
-}
-
-TEST_F(Navigator, AllFreeIsTotallyOpenAtFullSpeed) {
-    values.vfhActive = true;
-    start();
-    tick();
-    EXPECT_EQ(task.CAStatus, "totallyopen");
-    EXPECT_EQ(values.displayHeadingDeg, 380);
-    EXPECT_EQ(link.take(), Lines{ahead});
-}
-
-TEST_F(Navigator, AllBlockedStopsTheDrivesAndRetries) {
-    values.vfhActive = true;
-    values.binaryHistogram.fill(1);
-    start();
-    tick();
-    EXPECT_EQ(task.CAStatus, "stuck");
-    EXPECT_EQ(values.displayHeadingDeg, -380);
-    EXPECT_EQ(link.take(), (Lines{"SuspendDrive 0", "SuspendDrive 1", velocities(0, 0)}));
-    values.binaryHistogram.fill(0);
-    tick();
-    EXPECT_EQ(link.take(), Lines{ahead});
-}
-
-TEST_F(Navigator, AGapTooNarrowStopsThroughZeroSpeeds) {
-    values.vfhActive = true;
-    values.binaryHistogram[18] = values.binaryHistogram[20] = 1;
-    start();
-    tick();
-    EXPECT_EQ(task.CAStatus, "stuck");
-    EXPECT_EQ(values.displayHeadingDeg, -370);
-    EXPECT_EQ(link.take(), Lines{velocities(0, 0)});
-    EXPECT_EQ(task.forwardSpeed(), 0);
-    EXPECT_EQ(task.turnSpeed(), 0);
-}
-
-TEST_F(Navigator, ADetourIsDrivenAndShown) {
-    values.vfhActive = true;
-    values.binaryHistogram.fill(1);
-    for (std::size_t sector = 22; sector <= 24; ++sector) values.binaryHistogram[sector] = 0;
-    start();
-    tick();
-    EXPECT_EQ(task.CAStatus, "openfound");
-    EXPECT_EQ(values.displayHeadingDeg, 55);
-    EXPECT_EQ(task.desiredHeading(), degToRad(55));
-    EXPECT_EQ(task.turnSpeed(), 0.8);
-}
-
-TEST_F(Navigator, TheDensityOfTheChosenSectorSlowsNotThatOfTheGoal) {
-    values.vfhActive = true;
-    values.binaryHistogram[20] = 1;  // shifts the heading to sector 17
-    values.polarHistogram[19] = 90;
-    values.polarHistogram[17] = 50;
-    start();
-    tick();
-    EXPECT_EQ(task.CAStatus, "openwithchange");
-    const double error = std::fabs(degToRad(-15));
-    EXPECT_EQ(task.forwardSpeed(), 0.5 * 0.3 * (0.25 / error));
-}
-
-TEST_F(Navigator, ASaturationOfZeroIsFatalOnlyWhileTheSearchRuns) {
-    controls.txtTh2.setText("0");
-    start();
-    EXPECT_NO_THROW(tick());
-    values.vfhActive = true;
-    EXPECT_THROW(tick(), ProgramError);
-}
-
-TEST_F(Navigator, ASaturationThatIsNoNumberIsFatalOnlyWhenRead) {
-    controls.txtTh2.setText("much");
-    start();
-    EXPECT_NO_THROW(tick());
-    values.vfhActive = true;
-    EXPECT_THROW(tick(), ProgramError);
 }
 
 TEST_F(Navigator, AWheelRateThatDoesNotFitIsFatal) {
