@@ -81,7 +81,9 @@ int runStation(RealStation& real, Terminal& terminal) {
         return kCannotStart;
     } catch (const std::exception& error) {
         stopDrives(real.myRobot);
-        terminal.line(std::string("quorrin-station-headless: program error: ") + error.what());
+        const std::string& place = real.clock.failedIn();
+        terminal.line("quorrin-station-headless: program error" + (place.empty() ? "" : " in " + place) +
+                      ": " + error.what());
         return kProgramError;
     }
     return 0;

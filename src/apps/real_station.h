@@ -24,10 +24,11 @@ struct RealStation {
     std::string missingFolder = createHostFolders(files, host);
     QtClock clock;
     QtStreams streams{clock, host.run};
-    PosixPrograms programs{host.run};
     LockWindow window{host.run, kStationTitle};
     GatewayLink myRobot{clock, streams, files};
     GatewayLink robotTI{clock, streams, files};
+    // Goes first at the end: it waits for the gateways that were asked to close.
+    PosixPrograms programs{host.run};
 
     // Makes this the one station of its data folder; waits up to 10 s for one that is closing. False when
     // another one lives.

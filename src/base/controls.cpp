@@ -257,6 +257,7 @@ Frame::Frame(Form& form, std::string name, std::string caption)
 Timer::Timer(Form& form, std::string name, Clock& clock, std::int64_t intervalMs)
     : Control(form, std::move(name)), timer_(clock) {
     timer_.setInterval(intervalMs);
+    timer_.setName(form.name() + " " + this->name() + "_Timer");
 }
 
 }  // namespace quorrin

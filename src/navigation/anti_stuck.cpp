@@ -11,8 +11,8 @@ AntiStuck::AntiStuck(Clock& clock, DriveValues& drive, const SensorValues& senso
 
 void AntiStuck::run() {
     const Long interval(timeInterval);
-    chkTimer_ =
-        makeTaskTimer(clock_, {interval, 10, true, true}, [this, interval] { chkTimer_Timer(interval); });
+    chkTimer_ = makeTaskTimer(clock_, {interval, 10, true, true, "AntiStuck chkTimer_Timer"},
+                              [this, interval] { chkTimer_Timer(interval); });
 }
 
 void AntiStuck::task_end() {

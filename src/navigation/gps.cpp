@@ -15,8 +15,8 @@ bool GPS::GetLatest(double&, double&, double&, double&, Integer&) {
 void GPS::run() {
     odometry_.firstSample = true;
     const Long interval = roundToLong(EstInterval);
-    EstTimer_ =
-        makeTaskTimer(clock_, {interval, 1, true, true}, [this, interval] { EstTimer_Timer(interval); });
+    EstTimer_ = makeTaskTimer(clock_, {interval, 1, true, true, "GPS EstTimer_Timer"},
+                              [this, interval] { EstTimer_Timer(interval); });
 }
 
 void GPS::task_end() {

@@ -27,8 +27,8 @@ SensorMapBuilder::SensorMapBuilder(Clock& clock, MapValues& map, const PoseValue
 
 void SensorMapBuilder::run() {
     const Long interval = roundToLong(timeInterval);
-    RunTimer_ =
-        makeTaskTimer(clock_, {interval, 10, true, true}, [this, interval] { RunTimer_Timer(interval); });
+    RunTimer_ = makeTaskTimer(clock_, {interval, 10, true, true, "SensorMapBuilder RunTimer_Timer"},
+                              [this, interval] { RunTimer_Timer(interval); });
     Status = "go";
     clearGrid(map_);
     decayCountdown_ = kTicksBetweenFades;

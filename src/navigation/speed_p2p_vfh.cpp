@@ -35,7 +35,7 @@ speedP2PVFH::speedP2PVFH(Clock& clock, PublicValues& values, NavigationControls&
                          QuorrinSDK& myRobot)
     : clock_(clock), values_(values), controls_(controls), myRobot_(myRobot) {
     CAStatus.reserve(32);  // so that no word of a tick needs the heap
-    RunTimer_ = makeTaskTimer(clock_, {kPeriodMs, kResolutionMs, true, false},
+    RunTimer_ = makeTaskTimer(clock_, {kPeriodMs, kResolutionMs, true, false, "speedP2PVFH RunTimer_Timer"},
                               [this] { RunTimer_Timer(Long(kPeriodMs)); });
 }
 
@@ -174,7 +174,7 @@ void speedP2PVFH::startSpin() {
     if (!values_.motionInhibit)
         myRobot_.MoveDrivesTimed(bothDrives(Integer(left), Integer(right)), roundToInteger(duration_ms));
     const Long interval = roundToLong(duration_ms);
-    turnTimer_ = makeTaskTimer(clock_, {interval, kResolutionMs, false, true},
+    turnTimer_ = makeTaskTimer(clock_, {interval, kResolutionMs, false, true, "speedP2PVFH turnTimer_Timer"},
                                [this, interval] { turnTimer_Timer(interval); });
 }
 

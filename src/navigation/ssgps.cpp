@@ -28,8 +28,8 @@ bool SSGPS::GetLatest(double&, double&, double&, double&, Integer&) {
 
 void SSGPS::run() {
     const Long interval = roundToLong(SonarGPSInterval);
-    EstTimer_ =
-        makeTaskTimer(clock_, {interval, 1, true, true}, [this, interval] { EstTimer_Timer(interval); });
+    EstTimer_ = makeTaskTimer(clock_, {interval, 1, true, true, "SSGPS EstTimer_Timer"},
+                              [this, interval] { EstTimer_Timer(interval); });
 }
 
 void SSGPS::task_end() {

@@ -10,6 +10,7 @@ std::unique_ptr<TimerMM> makeTaskTimer(Clock& clock, const TaskTimerSettings& se
     timer->setInterval(settings.intervalMs);
     timer->setResolution(settings.resolutionMs);
     timer->setPeriodic(settings.periodic);
+    timer->setName(settings.name);
     timer->setEnabled(settings.enabled);
     return timer;
 }

@@ -14,6 +14,7 @@ struct TaskTimerSettings {
     std::int64_t resolutionMs;
     bool periodic;
     bool enabled;
+    const char* name = "";  // of the handler, for a message that tells where something went wrong
 };
 
 // Interval first: an enabled timer would restart its period when given a new one.

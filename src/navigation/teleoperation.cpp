@@ -31,8 +31,8 @@ void Teleoperation::suspend() {
 
 void Teleoperation::run() {
     const Long interval(timeInterval);
-    ConTimer_ =
-        makeTaskTimer(clock_, {interval, 10, true, true}, [this, interval] { ConTimer_Timer(interval); });
+    ConTimer_ = makeTaskTimer(clock_, {interval, 10, true, true, "Teleoperation ConTimer_Timer"},
+                              [this, interval] { ConTimer_Timer(interval); });
     active_ = true;
     navigator_ = std::make_unique<speedP2PVFH>(clock_, values_, controls_, myRobot_);
     nextpoint();

@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <string>
 
 #include "platform/civil_time.h"
 #include "platform/event_queue.h"
@@ -40,6 +41,9 @@ class Clock {
 
     // Called before each blocking wait, so that windows can paint what is dirty. It must deliver nothing.
     void setBeforeBlock(std::function<void()> hook) { beforeBlock_ = std::move(hook); }
+
+    // The innermost handler that the last exception came out of.
+    const std::string& failedIn() const { return queue_.failedIn(); }
 
   protected:
     friend class TimerMM;

@@ -95,6 +95,17 @@ std::optional<std::int64_t> EventQueue::nextDue(bool withWatches) const {
     return choice->key.dueMs;
 }
 
+void EventQueue::run(const Handler& handler, const std::string& name) {
+    failing_ = false;
+    try {
+        handler();
+    } catch (...) {
+        if (!failing_) failedIn_ = name;
+        failing_ = true;
+        throw;
+    }
+}
+
 bool EventQueue::deliverNext(std::int64_t limitMs, bool withWatches,
                              const std::function<void(std::int64_t)>& advance,
                              const std::function<std::int64_t()>& now) {
@@ -111,7 +122,7 @@ bool EventQueue::deliverNext(std::int64_t limitMs, bool withWatches,
         }
         const RunningMark mark(timer->source.state_->running);
         const std::shared_ptr<const Handler> handler = timer->handler;
-        if (handler && *handler) (*handler)();
+        if (handler && *handler) run(*handler, timer->source.state_->name);
         return true;
     }
 
@@ -120,10 +131,10 @@ bool EventQueue::deliverNext(std::int64_t limitMs, bool withWatches,
     const Item item = std::move(*place);
     items.erase(place);
     if (!item.source) {
-        item.handler();
+        run(item.handler, {});
     } else if (!item.source->gone) {
         const RunningMark mark(item.source->running);
-        item.handler();
+        run(item.handler, item.source->name);
     }
     return true;
 }

@@ -20,6 +20,8 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace quorrin {
@@ -33,10 +35,13 @@ class EventSource {
     EventSource& operator=(const EventSource&) = delete;
 
     bool running() const { return state_->running; }
+    // What the handler is called, for a message that tells where something went wrong.
+    void setName(std::string name) { state_->name = std::move(name); }
 
   private:
     friend class EventQueue;
     struct State {
+        std::string name;
         bool running = false;
         bool gone = false;
     };
@@ -87,6 +92,10 @@ class EventQueue {
     bool deliverNext(std::int64_t limitMs, bool withWatches, const std::function<void(std::int64_t)>& advance,
                      const std::function<std::int64_t()>& now);
 
+    // The innermost handler that the exception now under way, or the last one, came out of; "" for one
+    // without a name.
+    const std::string& failedIn() const { return failedIn_; }
+
   private:
     struct Item {
         std::int64_t dueMs;
@@ -104,12 +113,15 @@ class EventQueue {
 
     static Item itemFor(std::int64_t dueMs, std::uint64_t order, EventSource* source, Handler handler);
     std::optional<Choice> choose(std::int64_t limitMs, bool withWatches) const;
+    void run(const Handler& handler, const std::string& name);
 
     // Before the items: what waits there may own timers.
     std::vector<std::shared_ptr<TimerNode>> timers_;
     std::deque<Item> outside_;   // by due time, then by arrival
     std::deque<Item> messages_;  // by posting; due times never decrease
     std::uint64_t lastOrder_ = 0;
+    std::string failedIn_;
+    bool failing_ = false;
 };
 
 }  // namespace quorrin

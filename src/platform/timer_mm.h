@@ -10,6 +10,8 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "platform/clock.h"
 
@@ -24,6 +26,8 @@ class TimerMM {
     TimerMM& operator=(const TimerMM&) = delete;
 
     void setHandler(std::function<void()> handler);
+    // See EventSource::setName.
+    void setName(std::string name) { node_->source.setName(std::move(name)); }
 
     bool enabled() const { return node_->enabled; }
     void setEnabled(bool enabled);

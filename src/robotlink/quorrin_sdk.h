@@ -75,6 +75,14 @@ struct LinkEvent {
 };
 
 struct LinkEvents {
+    LinkEvents() {
+        SensorFrame.source.setName("SensorFrame");
+        MotorFrame.source.setName("MotorFrame");
+        IrFrame.source.setName("IrFrame");
+        PowerFrame.source.setName("PowerFrame");
+        ImageFrame.source.setName("ImageFrame");
+        SoundFrame.source.setName("SoundFrame");
+    }
     LinkEvent SensorFrame;
     LinkEvent MotorFrame;
     LinkEvent IrFrame;

@@ -103,19 +103,20 @@ void MainForm::readNeutralServos() {
 
 void MainForm::createTimers() {
     constexpr int kResolutionMs = 5;
-    const auto make = [this](int intervalMs, void (ControlTick::*handler)()) {
+    const auto make = [this](const char* name, int intervalMs, void (ControlTick::*handler)()) {
         auto timer = std::make_unique<TimerMM>(ports_.clock, [this, handler] { (tick_.*handler)(); });
+        timer->setName(name);
         timer->setPeriodic(true);
         timer->setInterval(intervalMs);
         timer->setResolution(kResolutionMs);
         return timer;
     };
-    tmrComping_ = make(100, &ControlTick::tmrComPing_Timer);
+    tmrComping_ = make("tmrComPing_Timer", 100, &ControlTick::tmrComPing_Timer);
     values_.pingEnabled = false;
-    tmrControl_ = make(100, &ControlTick::tmrControl_Timer);
+    tmrControl_ = make("tmrControl_Timer", 100, &ControlTick::tmrControl_Timer);
     tmrControl_->setEnabled(true);
     values_.tickEnabled = false;
-    displayTimer_ = make(700, &ControlTick::displayTimer_Timer);
+    displayTimer_ = make("displayTimer_Timer", 700, &ControlTick::displayTimer_Timer);
     displayTimer_->setEnabled(true);
     values_.displayEnabled = false;
 }

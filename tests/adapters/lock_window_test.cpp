@@ -179,10 +179,22 @@ TEST_F(PosixProgramsTest, SaysNothingOfAProgramThatCannotBeStarted) {
     EXPECT_TRUE(appears("done"));
 }
 
-TEST_F(PosixProgramsTest, WaitsAtItsEndForAProgramThatIsAboutToEnd) {
+TEST_F(PosixProgramsTest, WaitsAtItsEndForAProgramThatItAskedToClose) {
+    // Holds the title as a gateway does, and takes a while to close.
+    const std::string holder =
+        "import fcntl, os, signal, time\n"
+        "file = open('" +
+        folder.path() + "/" + kTitle +
+        ".lock', 'w')\n"
+        "signal.signal(signal.SIGTERM, lambda *_: (time.sleep(0.2), open('done', 'w'), os._exit(0)))\n"
+        "fcntl.lockf(file, fcntl.LOCK_EX, 1, 0)\n"
+        "time.sleep(20)\n";
+    files.writeWhole(folder.path() + "/holder.py", holder);
     {
         PosixPrograms own(folder.path());
-        own.start(script("sleep 0.2; echo > done"));
+        own.start(script("exec python3 holder.py"));
+        ASSERT_TRUE(waitForReal([&] { return own.findWindow(kTitle) != 0; }));
+        own.postClose(own.findWindow(kTitle));
     }
     EXPECT_TRUE(files.fileExists(folder.path() + "/done"));
 }

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include <string>
 #include <vector>
 
@@ -190,6 +192,41 @@ TEST_F(EventOrder, DeliversAnEventOnceAlthoughItsHandlerFails) {
     EXPECT_THROW(clock.runFor(0), ProgramError);
     EXPECT_NO_THROW(clock.runFor(0));
     EXPECT_EQ(calls, 1);
+}
+
+TEST(EventQueueBlame, NamesTheInnermostHandlerThatAnExceptionCameOutOf) {
+    VirtualClock clock;
+    EventSource outer;
+    outer.setName("outer");
+    EventSource inner;
+    inner.setName("inner");
+    clock.arrive(
+        [&] {
+            clock.arrive([] { throw std::runtime_error("x"); }, &inner);
+            clock.yield();
+        },
+        &outer);
+    EXPECT_THROW(clock.runFor(0), std::runtime_error);
+    EXPECT_EQ(clock.failedIn(), "inner");
+    clock.arrive(
+        [&] {
+            clock.arrive([] {}, &inner);
+            clock.yield();
+            throw std::runtime_error("x");
+        },
+        &outer);
+    EXPECT_THROW(clock.runFor(0), std::runtime_error);
+    EXPECT_EQ(clock.failedIn(), "outer");
+}
+
+TEST(EventQueueBlame, NamesATimerByItsName) {
+    VirtualClock clock;
+    TimerMM timer(clock, [] { throw std::runtime_error("x"); });
+    timer.setName("GPS EstTimer_Timer");
+    timer.setInterval(50);
+    timer.setEnabled(true);
+    EXPECT_THROW(clock.runFor(50), std::runtime_error);
+    EXPECT_EQ(clock.failedIn(), "GPS EstTimer_Timer");
 }
 
 }  // namespace

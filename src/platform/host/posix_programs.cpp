@@ -34,7 +34,7 @@ PosixPrograms::~PosixPrograms() {
     constexpr int kLooks = 200;
     constexpr timespec kPause{0, 5'000'000};
     collect();
-    for (int i = 0; i < kLooks && !started_.empty(); ++i) {
+    for (int i = 0; i < kLooks && closing(); ++i) {
         ::nanosleep(&kPause, nullptr);
         collect();
     }
@@ -53,6 +53,12 @@ void PosixPrograms::collect() {
                    started_.end());
 }
 
+bool PosixPrograms::closing() const {
+    return std::any_of(asked_.begin(), asked_.end(), [this](pid_t asked) {
+        return std::find(started_.begin(), started_.end(), asked) != started_.end();
+    });
+}
+
 Programs::Window PosixPrograms::findWindow(const std::string& title) {
     collect();
     const Window window = windowHolder(runFolder_, title);
@@ -66,7 +72,9 @@ bool PosixPrograms::isWindow(Window window) {
 }
 
 void PosixPrograms::postClose(Window window) {
-    if (isWindow(window)) ::kill(static_cast<pid_t>(window), SIGTERM);
+    if (!isWindow(window)) return;
+    asked_.push_back(static_cast<pid_t>(window));
+    ::kill(asked_.back(), SIGTERM);
 }
 
 }  // namespace quorrin

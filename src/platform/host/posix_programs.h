@@ -4,9 +4,8 @@
 // environment, and nothing to read or write on: it keeps a log of its own. A Window is its process id. Asking
 // a window to close is SIGTERM to the process that holds the title's lock at that moment.
 //
-// Started programs are collected when they end. The destructor waits up to a second for those that are still
-// there, so that a station that has asked its gateways to close leaves nothing behind; after that they are on
-// their own.
+// Started programs are collected when they end. The destructor waits up to a second for those that were asked
+// to close, so that a station leaves nothing behind; after that they are on their own.
 //
 // The caller's process must not itself hold a window lock of the same run folder and title.
 #pragma once
@@ -35,9 +34,12 @@ class PosixPrograms : public Programs {
 
   private:
     void collect();
+    // A started program that was asked to close is still there.
+    bool closing() const;
 
     std::string runFolder_;
     std::vector<pid_t> started_;            // and not collected yet
+    std::vector<pid_t> asked_;              // to close
     std::map<Window, std::string> titles_;  // of the windows that were found
 };
 
