@@ -50,9 +50,9 @@ void logIn(Station& station) {
 // Ctrl-C: as the key that ends the station; before the main form is there, as the login's Cancel.
 void endByOperator(Station& station) {
     if (station.gui.shown()) {
-        station.gui.cmdExit.click();
+        station.gui.cmdExit.operatorClick();
     } else {
-        station.login.cmdCancel.click();
+        station.login.cmdCancel.operatorClick();
     }
 }
 

@@ -66,15 +66,15 @@ void TextBox::setSelected(bool selected) {
 }
 
 void TextBox::operatorEdit(std::string text) {
-    if (usable()) setText(std::move(text));
+    if (!usable()) return;
+    acts(OperatorAct::Kind::set, text);
+    setText(std::move(text));
 }
 
 void TextBox::operatorKey(int key) {
-    if (usable() && onKeyPress) onKeyPress(key);
-}
-
-void TextBox::operatorFocus() {
-    if (usable()) form().moveFocus(*this);
+    if (!usable() || !onKeyPress) return;
+    acts(OperatorAct::Kind::key, std::int64_t{key});
+    onKeyPress(key);
 }
 
 CommandButton::CommandButton(Form& form, std::string name, std::string caption)
@@ -93,11 +93,14 @@ void CommandButton::setPicture(int picture) {
 }
 
 void CommandButton::operatorClick() {
-    if (usable()) click();
+    if (!usable()) return;
+    acts(OperatorAct::Kind::click);
+    click();
 }
 
 void CommandButton::operatorPress() {
     if (!usable()) return;
+    acts(OperatorAct::Kind::press);
     pressed_ = true;
     run(onMouseDown);
 }
@@ -105,6 +108,7 @@ void CommandButton::operatorPress() {
 void CommandButton::operatorRelease() {
     // A button that was pressed hears of the release, whatever has happened to it since.
     if (!pressed_ && !usable()) return;
+    acts(OperatorAct::Kind::release);
     pressed_ = false;
     run(onMouseUp);
 }
@@ -120,7 +124,9 @@ void CheckBox::setChecked(bool checked) {
 }
 
 void CheckBox::operatorSet(bool checked) {
-    if (usable()) setChecked(checked);
+    if (!usable()) return;
+    acts(OperatorAct::Kind::set, checked);
+    setChecked(checked);
 }
 
 OptionButton::OptionButton(Form& form, std::string name, std::string caption, bool chosen)
@@ -134,7 +140,9 @@ void OptionButton::setChosen(bool chosen) {
 }
 
 void OptionButton::operatorChoose() {
-    if (usable()) setChosen(true);
+    if (!usable()) return;
+    acts(OperatorAct::Kind::click);
+    setChosen(true);
 }
 
 Slider::Slider(Form& form, std::string name, std::int32_t minimum, std::int32_t maximum, std::int32_t value)
@@ -160,7 +168,9 @@ void Slider::setRange(std::int32_t minimum, std::int32_t maximum) {
 }
 
 void Slider::operatorMove(std::int32_t value) {
-    if (usable()) setValue(value);
+    if (!usable()) return;
+    acts(OperatorAct::Kind::set, std::int64_t{value});
+    setValue(value);
 }
 
 ComboBox::ComboBox(Form& form, std::string name) : Control(form, std::move(name)) {}
@@ -189,6 +199,7 @@ std::string ComboBox::text() const {
 
 void ComboBox::operatorChoose(const std::string& item) {
     if (!usable()) return;
+    acts(OperatorAct::Kind::set, item);
     const auto found = std::find(items_.begin(), items_.end(), item);
     if (found != items_.end()) setIndex(static_cast<int>(found - items_.begin()));
 }

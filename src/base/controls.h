@@ -63,7 +63,6 @@ class TextBox : public Control {
 
     void operatorEdit(std::string text);
     void operatorKey(int key);
-    void operatorFocus();
 
     std::function<void()> onChange;
 

@@ -26,6 +26,18 @@ void Form::activate() {
 
 void Form::operatorClose() {
     if (!shown_) return;
+    if (onOperatorAct) onOperatorAct({OperatorAct::Kind::close, nullptr, {}});
+    close();
+}
+
+void Form::operatorActivate() {
+    if (!shown_) return;
+    if (onOperatorAct) onOperatorAct({OperatorAct::Kind::activate, nullptr, {}});
+    activate();
+}
+
+void Form::close() {
+    if (!shown_) return;
     if (onClose) {
         onClose();
     } else {
@@ -60,6 +72,12 @@ Control::Control(Form& form, std::string name) : form_(form), name_(std::move(na
     if (!form_.byName_.emplace(name_, this).second)
         throw ProgramError("form " + form_.name() + " has two controls named " + name_);
     form_.order_.push_back(this);
+}
+
+void Control::operatorFocus() {
+    if (!usable()) return;
+    acts(OperatorAct::Kind::focus);
+    form_.moveFocus(*this);
 }
 
 void Control::setEnabled(bool enabled) {

@@ -12,11 +12,22 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace quorrin {
 
 class Control;
+
+// One thing that an operator did to a form or to one of its controls.
+struct OperatorAct {
+    enum class Kind { click, press, release, set, key, focus, close, activate };
+    Kind kind = Kind::click;
+    // Null for what is done to the form itself.
+    const Control* control = nullptr;
+    // What a control was set to (a text, a number, a truth), or the number of the key.
+    std::variant<std::string, std::int64_t, bool> value = std::string();
+};
 
 class Form {
   public:
@@ -33,8 +44,12 @@ class Form {
     void hide();
     // The form's window became the active one. Does nothing while the form is not shown.
     void activate();
-    // The operator closes the form's window. Does nothing while the form is not shown.
+    // Closes the form's window. Does nothing while the form is not shown.
+    void close();
+
+    // The operator does the same.
     void operatorClose();
+    void operatorActivate();
 
     // The control of that name, or null.
     Control* find(std::string_view controlName) const;
@@ -51,6 +66,9 @@ class Form {
 
     // What the form does when its window is closed; set by the form's logic. Without one the form is hidden.
     std::function<void()> onClose;
+
+    // Something that the operator does is about to have its effect; for whoever writes sessions down.
+    std::function<void(const OperatorAct& act)> onOperatorAct;
 
     // Hooks of a view; run after the change.
     std::function<void()> onShownChanged;
@@ -86,6 +104,8 @@ class Control {
     // May the operator use it now?
     bool usable() const { return enabled_ && form_.shown(); }
 
+    void operatorFocus();
+
     // Text, caption or value: what a watch prints.
     virtual std::string valueText() const = 0;
 
@@ -101,6 +121,10 @@ class Control {
   protected:
     void looks() const {
         if (onLook) onLook();
+    }
+    // The operator is about to do this to the control.
+    void acts(OperatorAct::Kind kind, decltype(OperatorAct::value) value = {}) const {
+        if (form_.onOperatorAct) form_.onOperatorAct({kind, this, std::move(value)});
     }
 
   private:

@@ -42,7 +42,7 @@ void bindControlPanelSwitch(PublicValues& values, frmGUI& gui, frmControlPanel& 
         values.manualPanelActive = false;
         gui.cmdShowControlPanel.setCaption("Show Control");
         if (gui.teleoperationtask) gui.teleoperationtask->suspend();
-        panel.operatorClose();
+        panel.close();
     };
     // Any other way of closing leaves the caption as it is.
     panel.onClose = [&values, &panel] {

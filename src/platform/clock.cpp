@@ -24,7 +24,7 @@ void Clock::post(EventQueue::Handler handler, EventSource* source) {
 }
 
 void Clock::arrive(EventQueue::Handler handler, EventSource* source) {
-    queue_.addOutside(nowMs(), source, std::move(handler));
+    queue_.addOutside(arrivalMs(), source, std::move(handler));
     queueChanged();
 }
 

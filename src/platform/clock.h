@@ -45,8 +45,14 @@ class Clock {
     // The innermost handler that the last exception came out of.
     const std::string& failedIn() const { return queue_.failedIn(); }
 
+    // To be called before a nested loop of the host is run inside a handler (a message box): what is due next
+    // will come in it.
+    virtual void armNested() {}
+
   protected:
     friend class TimerMM;
+    // The time that something which happens now is given in the queue.
+    virtual std::int64_t arrivalMs() const { return nowMs(); }
     virtual void wait(std::int64_t ms) = 0;
     // The queue has a new first event; a real clock arms its wake-up anew.
     virtual void queueChanged() {}

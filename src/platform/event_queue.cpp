@@ -112,6 +112,9 @@ bool EventQueue::deliverNext(std::int64_t limitMs, bool withWatches,
     const auto choice = choose(limitMs, withWatches);
     if (!choice) return false;
     advance(choice->key.dueMs);
+    lastDueMs_ = choice->key.dueMs;
+    if (choice->key.kind == Kind::message || choice->key.kind == Kind::timer)
+        latestInnerDueMs_ = std::max(latestInnerDueMs_, lastDueMs_);
 
     if (choice->timer) {
         const std::shared_ptr<TimerNode>& timer = choice->timer;

@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string>
@@ -96,6 +97,11 @@ class EventQueue {
     // without a name.
     const std::string& failedIn() const { return failedIn_; }
 
+    // Due time of the event whose delivery began last.
+    std::int64_t lastDueMs() const { return lastDueMs_; }
+    // The latest due time of a message or timer that has been delivered.
+    std::int64_t latestInnerDueMs() const { return latestInnerDueMs_; }
+
   private:
     struct Item {
         std::int64_t dueMs;
@@ -122,6 +128,8 @@ class EventQueue {
     std::uint64_t lastOrder_ = 0;
     std::string failedIn_;
     bool failing_ = false;
+    std::int64_t lastDueMs_ = 0;
+    std::int64_t latestInnerDueMs_ = std::numeric_limits<std::int64_t>::min();
 };
 
 }  // namespace quorrin

@@ -1,6 +1,6 @@
 #include "replay/control_fields.h"
 
-#include "replay/json_text.h"
+#include "base/json_text.h"
 
 namespace quorrin {
 

@@ -3,7 +3,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "replay/json_text.h"
+#include "base/json_text.h"
 
 namespace quorrin {
 

@@ -1,7 +1,7 @@
 #include "replay/robot_world.h"
 
+#include "base/json_text.h"
 #include "navigation/speed_p2p_vfh.h"
-#include "replay/json_text.h"
 
 namespace quorrin {
 

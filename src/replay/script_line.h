@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "replay/frame_table.h"
+#include "robotlink/frame_table.h"
 
 namespace quorrin {
 

@@ -11,9 +11,9 @@
 #include <string>
 
 #include "platform/files.h"
-#include "replay/frame_table.h"
 #include "replay/output.h"
 #include "replay/script_line.h"
+#include "robotlink/frame_table.h"
 #include "robotlink/quorrin_sdk.h"
 
 namespace quorrin {

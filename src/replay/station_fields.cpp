@@ -1,8 +1,8 @@
 #include "replay/station_fields.h"
 
+#include "base/json_text.h"
 #include "base/program_error.h"
 #include "replay/control_fields.h"
-#include "replay/json_text.h"
 #include "replay/record_fields.h"
 
 namespace quorrin {

@@ -1,6 +1,6 @@
 #include "replay/watch.h"
 
-#include "replay/json_text.h"
+#include "base/json_text.h"
 #include "replay/script_error.h"
 
 namespace quorrin {

@@ -20,7 +20,7 @@ void MainForm::Form_Unload() {
         callSeam(seams_.closeZoomCamera);
         values_.zoomCameraOpen = false;
     }
-    panel_.operatorClose();
+    panel_.close();
     values_.manualPanelActive = false;
     gui_.teleoperationtask.reset();
     shutdown();

@@ -45,6 +45,16 @@ TEST(MemoryFiles, AFullDiskRefusesEveryWriteAndKeepsTheOldContent) {
     EXPECT_TRUE(files.writeWhole("/a/one", "new"));
 }
 
+TEST(MemoryFiles, AppendingNeedsAFileAndRoom) {
+    MemoryFiles files;
+    EXPECT_FALSE(files.append("/a/one", "x"));
+    files.put("/a/one", "1");
+    EXPECT_TRUE(files.append("/a/one", "2"));
+    files.setDiskFull(true);
+    EXPECT_FALSE(files.append("/a/one", "3"));
+    EXPECT_EQ(files.read("/a/one"), "12");
+}
+
 TEST(MemoryFiles, CopiesRemovesAndListsByFolder) {
     MemoryFiles files;
     files.put("/a/two", "2");

@@ -28,7 +28,7 @@ class QtClock : public Clock {
     void run();
     void rethrowIfEnded();
     // To be called before a nested Qt loop is run inside a handler: what is due next will wake it.
-    void armNested() { queueChanged(); }
+    void armNested() override { queueChanged(); }
 
   private:
     void wait(std::int64_t ms) override;

@@ -59,6 +59,13 @@ void MemoryFiles::put(const std::string& path, const std::string& content) {
     files_[path] = content;
 }
 
+bool MemoryFiles::append(const std::string& path, std::string_view bytes) {
+    const auto found = files_.find(path);
+    if (full_ || found == files_.end()) return false;
+    found->second += bytes;
+    return true;
+}
+
 void MemoryFiles::makeFolders(const std::string& path) {
     for (std::string folder = path; folder.size() > 1; folder = folderOf(folder)) folders_.insert(folder);
 }

@@ -7,6 +7,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "platform/files.h"
 
@@ -25,6 +26,8 @@ class MemoryFiles : public Files {
 
     // Puts a file there, folders included, whatever the disk says.
     void put(const std::string& path, const std::string& content);
+    // Adds to a file that there is; refused by a full disk.
+    bool append(const std::string& path, std::string_view bytes);
     void setDiskFull(bool full) { full_ = full; }
 
   private:

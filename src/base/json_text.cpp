@@ -1,4 +1,4 @@
-#include "replay/json_text.h"
+#include "base/json_text.h"
 
 #include <charconv>
 #include <cmath>

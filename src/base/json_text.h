@@ -1,5 +1,5 @@
-// Values as JSON text, in the one form that the replay's output has: ", " and ": " as separators, UTF-8 kept
-// as it is, doubles as the shortest text that reads back to the same value.
+// Values as JSON text, in the one form that replays and recordings have: ", " and ": " as separators, UTF-8
+// kept as it is, doubles as the shortest text that reads back to the same value.
 //
 // Functions append to `out`. Bytes that are no UTF-8 become U+FFFD; a NaN or an infinity, which JSON does not
 // know, becomes null.

@@ -1,4 +1,4 @@
-#include "replay/frame_table.h"
+#include "robotlink/frame_table.h"
 
 namespace quorrin {
 
