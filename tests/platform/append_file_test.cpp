@@ -35,22 +35,22 @@ using Worlds = testing::Types<RealGrowingFiles, GrowingFilesInMemory>;
 TYPED_TEST_SUITE(AppendFileContract, Worlds);
 
 TYPED_TEST(AppendFileContract, GrowsByWhatIsAppendedAndCanBeReadMeanwhile) {
-    auto& world = this->world;
-    const auto file = world.create(world.place() + "/a");
+    auto& place = this->world;
+    const auto file = place.create(place.place() + "/a");
     ASSERT_NE(file, nullptr);
-    EXPECT_EQ(world.files.read(world.place() + "/a"), "");
+    EXPECT_EQ(place.files.read(place.place() + "/a"), "");
     EXPECT_TRUE(file->append("one\n"));
-    EXPECT_EQ(world.files.read(world.place() + "/a"), "one\n");
+    EXPECT_EQ(place.files.read(place.place() + "/a"), "one\n");
     EXPECT_TRUE(file->append(""));
     EXPECT_TRUE(file->append("two\n"));
-    EXPECT_EQ(world.files.read(world.place() + "/a"), "one\ntwo\n");
+    EXPECT_EQ(place.files.read(place.place() + "/a"), "one\ntwo\n");
 }
 
 TYPED_TEST(AppendFileContract, ANewOneTakesThePlaceOfTheOld) {
-    auto& world = this->world;
-    ASSERT_TRUE(world.create(world.place() + "/a")->append("old"));
-    EXPECT_TRUE(world.create(world.place() + "/a")->append("n"));
-    EXPECT_EQ(world.files.read(world.place() + "/a"), "n");
+    auto& place = this->world;
+    ASSERT_TRUE(place.create(place.place() + "/a")->append("old"));
+    EXPECT_TRUE(place.create(place.place() + "/a")->append("n"));
+    EXPECT_EQ(place.files.read(place.place() + "/a"), "n");
 }
 
 TYPED_TEST(AppendFileContract, CannotBeMadeInAFolderThatIsNotThere) {

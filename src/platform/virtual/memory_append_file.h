@@ -12,9 +12,7 @@ class MemoryAppendFile : public AppendFile {
   public:
     MemoryAppendFile(MemoryFiles& files, std::string path) : files_(files), path_(std::move(path)) {}
 
-    bool append(std::string_view bytes) override {
-        return files_.append(path_, bytes);
-    }
+    bool append(std::string_view bytes) override { return files_.append(path_, bytes); }
 
   private:
     MemoryFiles& files_;
