@@ -24,6 +24,7 @@ namespace quorrin {
 class PacedClock : public Clock {
   public:
     explicit PacedClock(Clock& host);
+    ~PacedClock() override { queue_.clear(); }
 
     std::int64_t nowMs() const override { return nowMs_; }
     CivilTime wallTime() const override { return host_.wallTime(); }
