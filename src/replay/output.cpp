@@ -38,6 +38,11 @@ void Output::end() {
         buffer_.resize(lineStart_);
         return;
     }
+    if (!leftOut_.empty()) {
+        for (auto at = buffer_.find(leftOut_, lineStart_); at != std::string::npos;
+             at = buffer_.find(leftOut_, at))
+            buffer_.erase(at, leftOut_.size());
+    }
     buffer_ += "}\n";
     if (file_ != nullptr && buffer_.size() >= kPieceBytes) flush();
 }

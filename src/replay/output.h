@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/clock.h"
 
@@ -32,6 +33,9 @@ class Output {
     void addRawTail(std::string_view text) { buffer_ += text; }
     void end();
 
+    // From now on no line shows this text, a JSON text's inside: it is left out wherever it stands.
+    void leaveOut(std::string text) { leftOut_ = std::move(text); }
+
     void stop() { stopped_ = true; }
     void flush();
     bool good() const { return good_; }
@@ -42,6 +46,7 @@ class Output {
     const Clock& clock_;
     std::FILE* file_;
     std::string buffer_;
+    std::string leftOut_;
     std::size_t lineStart_ = 0;
     bool stopped_ = false;
     bool good_ = true;

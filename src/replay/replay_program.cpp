@@ -95,7 +95,10 @@ int replayScript(const ReplayOptions& options, std::FILE* out, std::FILE* err) {
     if (!prepareApplication(options, application, err)) return kUnusable;
 
     LineReader lines(file.get());
-    ReplayRun run({application.files, application.folders, options.date, folderOf(script)}, lines, out);
+    const bool nameless = !options.app;
+    ReplayRun run(
+        {application.files, application.folders, options.date, folderOf(script), nullptr, 0, nameless}, lines,
+        out);
     const ReplayEnd end = run.run();
     if (end == ReplayEnd::badScript) complain(err, errorText(script, run.error()));
     if (!run.output().good()) return complain(err, "the output cannot be written");

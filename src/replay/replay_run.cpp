@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/program_error.h"
+#include "replay/json_text.h"
 #include "replay/script_parser.h"
 
 namespace quorrin {
@@ -38,6 +39,11 @@ ReplayRun::ReplayRun(const ReplaySetup& setup, LineReader& script, std::FILE* ou
       fields_(station_),
       operator_(station_) {
     clock_.setEventCap(kEventCap);
+    if (setup_.namelessApplication) {
+        std::string quoted;
+        appendText(quoted, setup_.folders.application + "/");
+        output_.leaveOut(quoted.substr(1, quoted.size() - 2));
+    }
     if (robot_) {
         output_.stop();
         robot_->observe(station_);
@@ -118,6 +124,8 @@ void ReplayRun::play() {
     }
     while (lineIsDue()) clock_.runUntil(next_.line.timeMs);
     clock_.runUntil(robot_ ? setup_.robotMs : lastTimeMs_);
+    // A last line that came late, after a blocking wait, may have asked for a watch, which is due now.
+    if (watch_ && !watch_->hasPrinted()) clock_.runUntil(clock_.nowMs());
 }
 
 // Reads the next line that asks for something into next_; false at the end of the script. A line that cannot

@@ -38,6 +38,8 @@ struct ReplaySetup {
     // With a simulated robot nothing is printed, and the run goes on to robotMs whatever the script says.
     const RobotSetup* robot = nullptr;
     std::int64_t robotMs = 0;
+    // The application folder's name differs from run to run, and the output must not: it is left out there.
+    bool namelessApplication = false;
 };
 
 enum class ReplayEnd : int {

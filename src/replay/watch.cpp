@@ -23,6 +23,7 @@ Watch::Watch(Clock& clock, Output& output, const StationFields& fields, const Wa
 }
 
 void Watch::print() {
+    hasPrinted_ = true;
     output_.begin();
     std::string& out = output_.addRaw("state");
     out += '{';

@@ -22,12 +22,15 @@ class Watch {
     Watch(Clock& clock, Output& output, const StationFields& fields, const WatchLine& line,
           std::int64_t lineNumber);
 
+    bool hasPrinted() const { return hasPrinted_; }
+
   private:
     void print();
 
     Output& output_;
     std::vector<std::pair<std::string, FieldPrinter>> watched_;
     TimerMM timer_;
+    bool hasPrinted_ = false;
 };
 
 }  // namespace quorrin

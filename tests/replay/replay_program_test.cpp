@@ -2,6 +2,9 @@
 #include "replay/replay_program.h"
 
 #include <gmock/gmock.h>
+#include <unistd.h>
+
+#include <cstdlib>
 
 #include "platform/host/posix_files.h"
 #include "platform/host/temporary_folder.h"
@@ -99,14 +102,37 @@ TEST_F(ReplayProgram, AProgramErrorIsStatusThree) {
 }
 
 TEST_F(ReplayProgram, NothingOfATemporaryApplicationFolderStays) {
-    const std::string watch = "{\"t\": 1000, \"watch\": [\"sdkIniPath\"], \"every\": 9}\n";
+    ASSERT_TRUE(files.createFolder(path("temporary")));
+    const char* before = std::getenv("TMPDIR");
+    const std::string restored = before == nullptr ? "" : before;
+    ::setenv("TMPDIR", path("temporary").c_str(), 1);
+    const Outcome outcome = run({script("{\"t\": 1000, \"answer\": \"no\"}\n")});
+    if (before == nullptr) {
+        ::unsetenv("TMPDIR");
+    } else {
+        ::setenv("TMPDIR", restored.c_str(), 1);
+    }
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(::rmdir(path("temporary").c_str()), 0) << "it is not empty";
+}
+
+// Its name differs from run to run, and the output must not.
+TEST_F(ReplayProgram, ATemporaryApplicationFolderHasNoNameInTheOutput) {
+    const std::string watch =
+        "{\"t\": 1000, \"watch\": [\"sdkIniPath\", \"gatewayTiIniPath\", \"txtMusicName\"], \"every\": 9}\n";
     const Outcome outcome = run({script(watch)});
     EXPECT_EQ(outcome.status, 0);
-    const auto at = outcome.out.find("\"sdkIniPath\": \"");
-    ASSERT_NE(at, std::string::npos);
-    const std::string ini = outcome.out.substr(at + 15, outcome.out.find("/Quorrinsdk.ini\"") - at - 15);
-    EXPECT_FALSE(ini.empty());
-    EXPECT_FALSE(files.folderExists(ini));
+    EXPECT_THAT(
+        outcome.out,
+        HasSubstr("{\"t\": 1000, \"state\": {\"sdkIniPath\": \"Quorrinsdk.ini\", \"gatewayTiIniPath\": "
+                  "\"windows/gateway_ti.ini\", \"txtMusicName\": \"happy8k.wav\"}}\n"));
+    EXPECT_EQ(run({script(watch)}).out, outcome.out);
+}
+
+TEST_F(ReplayProgram, AnApplicationFolderThatWasGivenKeepsItsName) {
+    const std::string watch = "{\"t\": 1000, \"watch\": [\"sdkIniPath\"], \"every\": 9}\n";
+    EXPECT_THAT(run({"--app", path("app"), script(watch)}).out,
+                HasSubstr("\"sdkIniPath\": \"" + path("app/Quorrinsdk.ini") + "\""));
 }
 
 TEST_F(ReplayProgram, ReportsOfASimulatedRobotAndPrintsNothingElse) {

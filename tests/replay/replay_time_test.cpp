@@ -71,6 +71,15 @@ TEST(ReplayTime, AWatchPrintsAtOnceAndThenOnItsGrid) {
                             state(1834, "txtTh1", "\"40\"")));
 }
 
+TEST(ReplayTime, AWatchInTheLastLinePrintsThoughTheLineComesLate) {
+    // The load ends at 1000.
+    EXPECT_THAT(runScript(watch(20, "txtTh1", 100)).linesWith("state"),
+                ElementsAre(state(1000, "txtTh1", "\"40\"")));
+    // The tick due at 6100 blocks until 6600.
+    const std::string script = wander(6000) + click(6050, "cmdChEn") + watch(6300, "txtRobotStatus", 100);
+    EXPECT_THAT(runScript(script).linesWith("state"), ElementsAre(state(6600, "txtRobotStatus", "\"IDLE\"")));
+}
+
 TEST(ReplayTime, ALaterWatchReplacesTheFirst) {
     const ScriptOutcome outcome =
         runScript(watch(1000, "txtTh1", 100) + watch(1150, "txtTh2", 1000) + set(1400, "txtTh3", "9"));
