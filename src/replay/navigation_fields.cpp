@@ -51,6 +51,17 @@ FieldPrinter sectorCellsPrinter(const MapValues& map) {
     };
 }
 
+// A 16-bit truth value: all ones is true. Anything else that is not 0 is no truth, and prints as it is.
+FieldPrinter truthPrinter(const Integer& value) {
+    return [&value](std::string& out) {
+        if (value == 0 || value == -1) {
+            appendBoolean(out, value != 0);
+        } else {
+            appendWhole(out, value.value());
+        }
+    };
+}
+
 }  // namespace
 
 #define QUORRIN_FIELD(field) table.add(#field, values.field)
@@ -65,7 +76,7 @@ void addNavigationFields(FieldTable& table, const PublicValues& values) {
     QUORRIN_FIELD(landmarkRunEnabled);
     QUORRIN_FIELD(landmarkLocked);
     QUORRIN_FIELD(landmarkSelectPending);
-    QUORRIN_FIELD(landmarkHold);
+    table.addPrinter("landmarkHold", truthPrinter(values.landmarkHold));
     table.addPrinter("landmarkPos", rowsPrinter(values.landmarkPos));
     table.addList("landmarkRangeA", values.landmarkRangeA, 1);
     table.addList("landmarkRangeB", values.landmarkRangeB, 1);

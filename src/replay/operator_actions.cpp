@@ -12,6 +12,13 @@ namespace {
     throw ScriptError{number, "\"" + control.name() + "\" " + why};
 }
 
+// A whole number stands for its digits.
+std::string textValue(const Control& control, const ControlValue& to, std::int64_t number) {
+    if (const auto* whole = std::get_if<std::int64_t>(&to)) return std::to_string(*whole);
+    if (const auto* text = std::get_if<std::string>(&to)) return *text;
+    refuse(control, "takes a text", number);
+}
+
 std::int32_t wholeValue(const Control& control, const ControlValue& to, std::int64_t number) {
     std::optional<std::int64_t> value;
     if (const auto* whole = std::get_if<std::int64_t>(&to)) value = *whole;
@@ -72,9 +79,7 @@ void OperatorActions::perform(const PressLine& line, std::int64_t number) {
 void OperatorActions::perform(const SetLine& line, std::int64_t number) {
     Control& target = control(line.control, number);
     if (auto* box = dynamic_cast<TextBox*>(&target)) {
-        const auto* text = std::get_if<std::string>(&line.to);
-        if (text == nullptr) refuse(target, "takes a text", number);
-        box->operatorEdit(*text);
+        box->operatorEdit(textValue(target, line.to, number));
     } else if (auto* slider = dynamic_cast<Slider*>(&target)) {
         slider->operatorMove(wholeValue(target, line.to, number));
     } else if (auto* check = dynamic_cast<CheckBox*>(&target)) {
@@ -83,13 +88,7 @@ void OperatorActions::perform(const SetLine& line, std::int64_t number) {
         // A person cannot take a choice back, only choose another option.
         if (truthValue(target, line.to, number)) option->operatorChoose();
     } else if (auto* combo = dynamic_cast<ComboBox*>(&target)) {
-        if (const auto* whole = std::get_if<std::int64_t>(&line.to)) {
-            combo->operatorChoose(std::to_string(*whole));
-        } else if (const auto* text = std::get_if<std::string>(&line.to)) {
-            combo->operatorChoose(*text);
-        } else {
-            refuse(target, "takes a text", number);
-        }
+        combo->operatorChoose(textValue(target, line.to, number));
     } else {
         refuse(target, "cannot be set", number);
     }

@@ -34,6 +34,12 @@ TEST(ReplayOperator, ASetTextMayBeOneThatAWindowWouldNotLetAPersonFinish) {
               "{\"txtTh1\": \"many\", \"densityThreshold\": \"many\"}}");
 }
 
+TEST(ReplayOperator, ABoxTakesAWholeNumberAsItsDigits) {
+    EXPECT_EQ(valuesAt(1200, "\"txtTh1\", \"densityThreshold\"",
+                       "{\"t\": 1100, \"set\": \"txtTh1\", \"to\": 41}\n"),
+              "{\"txtTh1\": \"41\", \"densityThreshold\": 41}}");
+}
+
 TEST(ReplayOperator, ADisabledControlDoesNothing) {
     EXPECT_EQ(valuesAt(1200, "\"frmLogin.txtRobotPort\"",
                        "{\"t\": 0, \"login\": true}\n"

@@ -48,7 +48,7 @@ TEST(ReplayRefusals, AKindOfControlThatDoesNotTakeTheActionIsNamed) {
     expectRefused("{\"t\": 1100, \"click\": \"lblCom\"}\n", 1, "\"lblCom\" cannot be clicked");
     expectRefused("{\"t\": 1100, \"press\": \"txtTh1\"}\n", 1, "\"txtTh1\" cannot be pressed");
     expectRefused("{\"t\": 1100, \"set\": \"lblCom\", \"to\": \"1\"}\n", 1, "\"lblCom\" cannot be set");
-    expectRefused("{\"t\": 1100, \"set\": \"txtTh1\", \"to\": 41}\n", 1, "\"txtTh1\" takes a text");
+    expectRefused("{\"t\": 1100, \"set\": \"txtTh1\", \"to\": true}\n", 1, "\"txtTh1\" takes a text");
     expectRefused("{\"t\": 1100, \"set\": \"sldImageQuality\", \"to\": \"much\"}\n", 1,
                   "\"sldImageQuality\" takes a whole number");
     expectRefused("{\"t\": 1100, \"set\": \"chkGPS\", \"to\": 2}\n", 1, "\"chkGPS\" takes true or false");

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "replay/record_fields.h"
 #include "support/replay_script.h"
 
 namespace quorrin {
@@ -195,6 +196,22 @@ TEST(StationFields, PrintNumbersTruthsAndTexts) {
     EXPECT_EQ(valueOf("GPS.EstInterval"), "50");
     EXPECT_EQ(valueOf("Teleoperation.maxforwardspeed"), "0.6");
     EXPECT_EQ(valueOf("cHeadUpDown"), "2100");
+}
+
+TEST(StationFields, PrintAStoredTruthValueAsTruth) {
+    PublicValues values;
+    FieldTable table;
+    addNavigationFields(table, values);
+    const auto printed = [&] {
+        std::string out;
+        (*table.find("landmarkHold"))(out);
+        return out;
+    };
+    EXPECT_EQ(printed(), "false");
+    values.landmarkHold = -1;
+    EXPECT_EQ(printed(), "true");
+    values.landmarkHold = 2;
+    EXPECT_EQ(printed(), "2");
 }
 
 TEST(StationFields, PrintArraysFromTheTablesFirstIndex) {
