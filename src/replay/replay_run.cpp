@@ -4,8 +4,8 @@
 #include <exception>
 #include <utility>
 
+#include "base/json_text.h"
 #include "base/program_error.h"
-#include "replay/json_text.h"
 #include "replay/script_parser.h"
 
 namespace quorrin {
