@@ -148,6 +148,37 @@ TEST_F(AddressEditing, AnEmptyBoxCannotBeLeftAndIsInvalid) {
     EXPECT_EQ(box(0).foreColour(), kBlack);
 }
 
+TEST_F(AddressEditing, WhatIsTypedAfterAFailedLeaveIsTakenIn) {
+    fillOnes();
+    box(0).operatorEdit("");
+    box(2).operatorFocus();
+    box(0).operatorEdit("9x");
+    EXPECT_EQ(box(0).text(), "9");
+    EXPECT_EQ(box(0).tag(), "True");
+}
+
+TEST_F(AddressEditing, TheMarkGoesWhenABoxIsLeft) {
+    fillOnes();
+    ASSERT_TRUE(box(0).selected());
+    box(1).operatorFocus();
+    EXPECT_FALSE(box(0).selected());
+}
+
+TEST_F(AddressEditing, TheCheckMarksABoxThatHasTheFocusAlready) {
+    fillOnes();
+    box(0).setBackColour(kWhite);
+    boxes.focusAndMark(0);
+    EXPECT_EQ(box(0).backColour(), kDarkBlue);
+}
+
+TEST_F(AddressEditing, BackspaceInTheSecondBoxGoesForTheFirst) {
+    fillOnes();
+    box(3).operatorFocus();
+    box(1).operatorEdit("");
+    box(1).operatorKey(8);
+    EXPECT_EQ(form.focused(), &box(0));
+}
+
 TEST_F(AddressEditing, BackspaceInABoxWithTextStays) {
     fillOnes();
     box(1).operatorFocus();

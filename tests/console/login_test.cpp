@@ -76,6 +76,50 @@ TEST_F(LoginForm, AnUnevenStoredAddressIsShownWrongAndTypingItAgainRepairsIt) {
     EXPECT_EQ(bench.paths.robotIp, "10.168.0.1");
 }
 
+// What the odd cut makes of the commonest loopback address: the second field takes the third along, the third
+// stays empty, and an empty box holds the focus and is invalid.
+TEST_F(LoginForm, AStoredLoopbackAddressIsShownWrongAndHoldsTheForm) {
+    bench.store("127.0.0.1", "10001", "10002");
+    load();
+    EXPECT_EQ(bench.login.addressBoxes().joined(), "127.00..1");
+    EXPECT_EQ(bench.tags(), "[True][True][False][True]");
+    EXPECT_EQ(form.focused(), &form.txt_ip(2));
+    EXPECT_FALSE(form.cmdOK.enabled());
+    bench.clock.runFor(300);
+    EXPECT_FALSE(form.cmdOK.enabled());
+    EXPECT_THAT(bench.log, testing::Each("box No valid IP-address|"));
+    // Once in the load, then at each period of the timer.
+    EXPECT_EQ(bench.log.size(), 4U);
+
+    int i = 0;
+    for (const char* field : {"127", "0", "0", "1"}) form.txt_ip(i++).operatorEdit(field);
+    bench.clock.runFor(100);
+    EXPECT_TRUE(form.cmdOK.enabled());
+    form.cmdOK.operatorClick();
+    EXPECT_EQ(bench.paths.robotIp, "127.0.0.1");
+    EXPECT_EQ(stored("gateway_mot.ini", "WiFiIP"), "127.0.0.1");
+}
+
+TEST_F(LoginForm, OkTakesTheAddressThatWasTyped) {
+    load();
+    form.txt_ip(3).operatorFocus();
+    form.txt_ip(3).operatorEdit("77");
+    form.cmdOK.operatorClick();
+    EXPECT_EQ(bench.paths.robotIp, "127.127.0.77");
+    EXPECT_EQ(stored("gateway_mot.ini", "WiFiIP"), "127.127.0.77");
+    EXPECT_EQ(stored("gateway_ti.ini", "WiFiIP"), "127.127.0.77");
+}
+
+TEST_F(LoginForm, AnInvalidFirstBoxIsFoundToo) {
+    load();
+    form.txt_ip(0).setTag("False");
+    bool result = true;
+    bench.login.checkIP(result);
+    EXPECT_FALSE(result);
+    EXPECT_EQ(form.focused(), &form.txt_ip(0));
+    EXPECT_THAT(bench.log, ElementsAre("box No valid IP-address|"));
+}
+
 TEST_F(LoginForm, PortZeroKeepsOkDisabled) {
     bench.store("10.20.30.40", "0", "1");
     load();
@@ -145,6 +189,9 @@ TEST_F(LoginForm, AnOpenBoxIsNotJoinedByASecondOne) {
     bool result = true;
     bench.login.checkIP(result);
     EXPECT_EQ(shown, 1);
+    // Closed, it makes way for the next one.
+    bench.clock.runFor(100);
+    EXPECT_EQ(shown, 2);
 }
 
 TEST_F(LoginForm, ThePortKeepsDigitsOnly) {
@@ -191,6 +238,14 @@ TEST_F(LoginForm, ThePortAboveIsNotLimitedToSixteenBits) {
     form.txtRobotPort.operatorEdit("70000");
     form.cmdOK.operatorClick();
     EXPECT_EQ(stored("gateway_ti.ini", "WiFiPort"), "70001");
+}
+
+TEST_F(LoginForm, APortOfAbsurdLengthStillHasOneAbove) {
+    load();
+    form.txtRobotPort.operatorEdit("1000000000000000000000");
+    form.cmdOK.operatorClick();
+    EXPECT_EQ(stored("gateway_mot.ini", "WiFiPort"), "1000000000000000000000");
+    EXPECT_EQ(stored("gateway_ti.ini", "WiFiPort"), "1e+21");
 }
 
 TEST_F(LoginForm, AFullDiskDoesNotHoldTheHandOver) {

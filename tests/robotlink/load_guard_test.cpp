@@ -112,5 +112,11 @@ TEST_F(LoadGuard, LeavesALampAloneBetweenTheLimits) {
     EXPECT_EQ(gui.lamp(6), kGreen);
 }
 
+TEST_F(LoadGuard, IntegratesEachSideByItsOwnCurrent) {
+    guard(1.6, 2.6, 2);
+    EXPECT_DOUBLE_EQ(sensors.motorHeatLeft, 6);
+    EXPECT_DOUBLE_EQ(sensors.motorHeatRight, 12);
+}
+
 }  // namespace
 }  // namespace quorrin

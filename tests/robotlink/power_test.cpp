@@ -171,6 +171,14 @@ TEST_F(Power, ChargesOnADockWithCoolBatteries) {
     EXPECT_TRUE(robot.operations().empty());  // the tick sends the byte
 }
 
+TEST_F(Power, TurnsTheDockLampGreenAgainAfterItWasRed) {
+    frame();
+    ASSERT_EQ(gui.lamp(2), kRed);
+    onDock();
+    frame();
+    EXPECT_EQ(gui.lamp(2), kGreen);
+}
+
 TEST_F(Power, AsksForIdleWithEveryFrameOnADock) {
     onDock();
     for (int i = 1; i <= 3; ++i) {

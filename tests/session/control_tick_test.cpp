@@ -142,5 +142,12 @@ TEST_F(ControlTickOrder, ChangesOfTheReportedBoxesAreCounted) {
     EXPECT_EQ(told, 5);
 }
 
+TEST_F(ControlTickOrder, AnErrorInATickIsBlamedOnItsTimer) {
+    bench.startSession();
+    gui.txtTh1.setText("many");
+    EXPECT_THROW(bench.tick(), ProgramError);
+    EXPECT_EQ(bench.clock.failedIn(), "tmrControl_Timer");
+}
+
 }  // namespace
 }  // namespace quorrin

@@ -43,6 +43,15 @@ TEST_F(FrameEvents, OtherMotionFramesDoNotRaiseTheLink) {
     EXPECT_TRUE(values.encoderDataValid);
 }
 
+TEST_F(FrameEvents, AnIrFrameStoresItsRanges) {
+    bench.startSession();
+    bench.myRobot.IrAdc1 = bench.myRobot.IrAdc6 = 1000;
+    bench.myRobot.IrFrame.raise();
+    EXPECT_GT(values.irRange[1], 0.23);
+    EXPECT_GT(values.irRange[6], 0.23);
+    EXPECT_EQ(values.irRange[0], 0);
+}
+
 TEST_F(FrameEvents, APresenceIsCountedAsAChange) {
     bench.startSession();
     bench.myRobot.HumanAdc1 = 4000;

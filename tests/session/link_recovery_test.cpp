@@ -55,6 +55,8 @@ TEST_F(LinkRecovery, LeavesTheSessionInSuspense) {
     silentSession();
     values.startStep = 7;
     gui.resetCnt = 3;
+    values.motWarmupCount = 4;
+    values.tiWarmupCount = 5;
     bench.tick();
     EXPECT_EQ(values.motSilentTicks, 0);
     EXPECT_EQ(values.tiSilentTicks, 0);
@@ -178,6 +180,48 @@ TEST_F(LinkRecovery, TenInARowAllComeBack) {
         ASSERT_EQ(gui.txtRobotStatus.text(), "comm wrong") << round;
         bench.powerFrames(11);
     }
+}
+
+TEST_F(LinkRecovery, ComesAfterExactly201SilentTicksOfTheMotionLink) {
+    bench.reachWondering();
+    bench.sensorFrames(1);
+    for (int i = 0; i < 200; ++i) {
+        bench.powerFrames(1);
+        // Other frames of the link do not help.
+        bench.myRobot.IrFrame.raise();
+        bench.myRobot.MotorFrame.raise();
+        bench.tick();
+        ASSERT_TRUE(values.tickEnabled) << i;
+        ASSERT_EQ(values.motSilentTicks, i + 1);
+    }
+    bench.tick();
+    EXPECT_FALSE(values.tickEnabled);
+    EXPECT_EQ(gui.txtRobotStatus.text(), "comm wrong");
+}
+
+TEST_F(LinkRecovery, PowerFramesThatStopAreNoticedInIdleToo) {
+    bench.startSession();
+    values.requestWander = false;
+    bench.tick(200);
+    EXPECT_TRUE(values.tickEnabled);
+    bench.tick();
+    EXPECT_FALSE(values.tickEnabled);
+    EXPECT_EQ(gui.txtRobotStatus.text(), "comm wrong");
+}
+
+// Frames that waited during the first block come in while the old gateways are told to close. They count
+// towards the next link and start nothing, since the session is not waiting for a start yet.
+TEST_F(LinkRecovery, FramesInItsYieldsCountAndStartNothing) {
+    silentSession();
+    const auto tickAt = (bench.clock.nowMs() / 100 + 1) * 100;
+    for (int i = 1; i <= 4; ++i) FakeLink::arriveAt(bench.clock, tickAt + 200 * i, bench.robotTI.PowerFrame);
+    bench.tick();
+    EXPECT_EQ(values.tiWarmupCount, 4);
+    EXPECT_FALSE(values.tiLinkUp);
+    EXPECT_FALSE(values.tickEnabled);
+    EXPECT_TRUE(values.autoStartPending);
+    bench.powerFrames(7);
+    EXPECT_TRUE(values.tickEnabled);
 }
 
 }  // namespace

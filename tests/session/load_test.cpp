@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "base/program_error.h"
 #include "navigation/anti_stuck.h"
 #include "navigation/gps.h"
 #include "navigation/sensor_map_builder.h"
@@ -63,6 +64,9 @@ TEST_F(MainFormLoad, SetsItsStartValues) {
     values.chargeFlash = values.battery1Flash = values.battery2Flash = true;
     values.landmarkSelectPending = true;
     values.previousMode = 0;
+    values.useWanderInput = true;
+    gui.statusBroadcastTicks = 40;
+    gui.statusRecordTail = 1;
     gui.setThresholds(1, 2, 8, 9);
     load();
     EXPECT_FALSE(values.motionInhibit);
@@ -93,6 +97,7 @@ TEST_F(MainFormLoad, ClearsTheFlagsOfAnEarlierLife) {
     values.frameWatchdog = 3;
     values.remoteListening = values.videoClientConnected = values.remoteCommandActive = true;
     values.aboutOpen = values.manualPanelActive = values.zoomCameraOpen = true;
+    values.pingEnabled = values.tickEnabled = values.displayEnabled = true;
     gui.tmrStartJoystick.setRunning(true);
     load();
     EXPECT_EQ(gui.Record_Flag, 0);
@@ -103,6 +108,7 @@ TEST_F(MainFormLoad, ClearsTheFlagsOfAnEarlierLife) {
     EXPECT_EQ(values.frameWatchdog, 0);
     EXPECT_FALSE(values.remoteListening || values.videoClientConnected || values.remoteCommandActive);
     EXPECT_FALSE(values.aboutOpen || values.manualPanelActive || values.zoomCameraOpen);
+    EXPECT_FALSE(values.pingEnabled || values.tickEnabled || values.displayEnabled);
     EXPECT_FALSE(gui.tmrStartJoystick.running());
 }
 
@@ -153,6 +159,7 @@ TEST_F(MainFormLoad, StartsTheTasksWithTheDriverSuspended) {
     load();
     EXPECT_EQ(bench.station.gps()->EstInterval, 50);
     EXPECT_EQ(bench.station.sensorMap()->Status, "go");
+    EXPECT_EQ(bench.station.sensorMap()->timeInterval, 100);
     EXPECT_EQ(bench.station.antiStuck()->timeInterval, 200);
     ASSERT_NE(bench.station.navigator(), nullptr);
     EXPECT_EQ(bench.station.navigator()->Status, "run");
@@ -170,6 +177,9 @@ TEST_F(MainFormLoad, MusicMayBePlayedAtOnce) {
 }
 
 TEST_F(MainFormLoad, FoldOutsStartClosed) {
+    gui.fraSetting.setVisible(true);
+    gui.fraSensor.setVisible(true);
+    gui.cmdExpandSetting.setCaption("Close Setting");
     load();
     EXPECT_FALSE(gui.fraSetting.visible());
     EXPECT_FALSE(gui.fraSensor.visible());
@@ -189,7 +199,42 @@ TEST_F(MainFormLoad, ListsTheArchiveDaysOfTheLastYearNewestFirst) {
     EXPECT_THAT(gui.cobAvailDate.items(), ElementsAre("2026-11-20", "2026-11-18", "2025-11-20"));
 }
 
+TEST_F(MainFormLoad, TheSettingsUnfoldAtTheirKey) {
+    load();
+    gui.cmdExpandSetting.operatorClick();
+    EXPECT_TRUE(gui.fraSetting.visible());
+    EXPECT_EQ(gui.cmdExpandSetting.caption(), "Close Setting");
+}
+
+TEST_F(MainFormLoad, OdometryRunsFromTheLoadOn) {
+    load();
+    bench.myRobot.MotorFrame.raise();
+    bench.clock.runFor(50);
+    bench.myRobot.EncoderPositionLeft = -100;
+    bench.myRobot.EncoderPositionRight = 100;
+    bench.myRobot.MotorFrame.raise();
+    bench.clock.runFor(49);
+    EXPECT_EQ(values.robotX, 0);
+    bench.clock.runFor(1);
+    EXPECT_GT(values.robotX, 0.03);
+}
+
+// The detector's timer runs; its flag alone holds it back.
+TEST_F(MainFormLoad, TheStuckDetectorWaitsForItsFlag) {
+    load();
+    values.inStuck = true;
+    bench.clock.runFor(200);
+    EXPECT_FALSE(values.inStuck);
+}
+
+TEST_F(MainFormLoad, ANeutralPositionThatDoesNotFitEndsTheProgram) {
+    bench.files.put("/app/Quorrinsdk.ini", "[servo1]\ninit=40000\n");
+    EXPECT_THROW(load(), ProgramError);
+}
+
 TEST_F(MainFormLoad, ListsNothingWithoutAnArchive) {
+    gui.fileTolNum = 3;
+    gui.VideoPlayMode = "PLAY";
     load();
     EXPECT_THAT(gui.cobAvailDate.items(), IsEmpty());
     EXPECT_FALSE(gui.cmdPlay.enabled() || gui.cmdPause.enabled() || gui.cmdStopReview.enabled() ||

@@ -48,7 +48,7 @@ TEST_F(ModeChange, WonderingGoesToIdleInItsOrder) {
     values.requestIdle = true;
     values.requestJoy = true;
     values.requestWander = true;
-    values.joystickActive = false;
+    values.motWarmupCount = 3;
     const auto start = bench.clock.nowMs();
     EXPECT_THAT(tickLog(), ElementsAre("myRobot.MoveServosTimed 3900 3650 3400 -32768 3500 3200 500",
                                        "myRobot.SuspendDrive 0", "myRobot.SuspendDrive 1",
@@ -81,6 +81,25 @@ TEST_F(ModeChange, WonderingGoesToJoyInItsOrder) {
     EXPECT_FALSE(values.landmarkRunEnabled);
     EXPECT_FALSE(values.useWanderInput);
     EXPECT_FALSE(anyRequest());
+    EXPECT_TRUE(gui.teleoperationtask->active());
+}
+
+TEST_F(ModeChange, LeavingWonderingForIdleTakesTheRobotFromTheStick) {
+    bench.reachWondering();
+    values.joystickActive = true;
+    values.joyOverride = true;  // has had its effect already
+    values.requestIdle = true;
+    bench.tick();
+    EXPECT_EQ(values.robotMode, kModeIdle);
+    EXPECT_FALSE(values.joystickActive);
+}
+
+TEST_F(ModeChange, JoyContinuesADriverThatWasHeld) {
+    bench.reachWondering();
+    gui.teleoperationtask->suspend();
+    values.requestJoy = true;
+    bench.tick();
+    EXPECT_EQ(values.robotMode, kModeJoy);
     EXPECT_TRUE(gui.teleoperationtask->active());
 }
 
@@ -199,6 +218,7 @@ TEST_F(ModeChange, TheModeKeyAsksForIdleInAnyOtherMode) {
     bench.reachWondering();
     values.joystickActive = true;
     values.requestJoy = true;
+    values.requestWander = true;
     gui.cmdChEn.operatorClick();
     EXPECT_TRUE(values.requestIdle);
     EXPECT_FALSE(values.requestWander || values.requestJoy);

@@ -85,6 +85,7 @@ TEST_F(MotionSession, ARunClearsTheLandmarksInUseAndKeepsTheirTables) {
     values.pairA1 = values.pairA2 = values.pairB1 = values.pairB2 = 3;
     values.zoneRow = 2;
     values.zoneChangeCount = 1;
+    values.landmarkHold = -1;
     values.landmarkCount = 5;
     values.landmarkRangeA = {0, 1.5, 2.5};
     values.landmarkRangeB = {0, 1.5};
@@ -94,6 +95,7 @@ TEST_F(MotionSession, ARunClearsTheLandmarksInUseAndKeepsTheirTables) {
     EXPECT_EQ(values.pairA1 + values.pairA2 + values.pairB1 + values.pairB2, 0);
     EXPECT_EQ(values.zoneRow, 0);
     EXPECT_EQ(values.zoneChangeCount, 0);
+    EXPECT_EQ(values.landmarkHold, 0);
     EXPECT_THAT(values.landmarkRangeA, ElementsAre(0, 0, 0));
     EXPECT_THAT(values.landmarkRangeB, ElementsAre(0, 0));
     EXPECT_EQ(values.landmarkCount, 5);
@@ -165,11 +167,13 @@ TEST_F(MotionSession, StartWhileTheRobotMovesBeginsAnewWithTheGatewayLeftOpen) {
 TEST_F(MotionSession, AnotherCaptionWouldSuspendTheSession) {
     start();
     gui.cmdStart.setCaption("STOP");
+    values.pingEnabled = true;
     bench.take();
     gui.cmdStart.operatorClick();
     EXPECT_EQ(gui.cmdStart.caption(), "START");
     EXPECT_EQ(values.robotMode, kModeStarting);
-    EXPECT_FALSE(values.tickEnabled || values.displayEnabled || values.antiStuckEnabled);
+    EXPECT_FALSE(values.tickEnabled || values.displayEnabled || values.pingEnabled ||
+                 values.antiStuckEnabled);
     EXPECT_TRUE(values.landmarkLocked);
     EXPECT_FALSE(values.landmarkRunEnabled);
     EXPECT_EQ(bench.myRobot.count("SuspendDrive"), 6U);

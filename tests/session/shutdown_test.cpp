@@ -117,6 +117,24 @@ TEST_F(Shutdown, EndsTheTasks) {
     EXPECT_EQ(gui.teleoperationtask, nullptr);
 }
 
+TEST_F(Shutdown, EndsADriverThatSomebodyElseStillHolds) {
+    bench.reachWondering();
+    const auto held = gui.teleoperationtask;
+    ASSERT_NE(held->navigator(), nullptr);
+    exit();
+    EXPECT_EQ(held->navigator(), nullptr);
+    bench.take();
+    bench.clock.runFor(1000);
+    EXPECT_THAT(bench.take(), testing::IsEmpty());
+}
+
+TEST_F(Shutdown, ClosingTheWindowEndsARemoteClientsHold) {
+    bench.startSession();
+    values.manualPanelActive = true;  // the panel itself is not open
+    closeWindow();
+    EXPECT_FALSE(values.manualPanelActive);
+}
+
 TEST_F(Shutdown, NothingIsAskedOfTheRobotAfterwards) {
     bench.reachWondering();
     exit();
