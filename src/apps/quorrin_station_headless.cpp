@@ -57,11 +57,17 @@ void endByOperator(Station& station) {
 }
 
 int runStation(RealStation& real, Terminal& terminal) {
-    TerminalBoxes boxes(terminal);
+    TerminalBoxes answered(terminal);
+    RecordedBoxes boxes(answered, real.recorder);
     const std::int64_t startMs = real.clock.nowMs();
-    Station station({real.clock, real.files, real.programs, boxes, real.myRobot, real.robotTI,
+    Station station({real.time, real.files, real.programs, boxes, real.recordedMyRobot, real.recordedRobotTI,
                      real.host.folders, [] { throw ProgramEnd{}; }});
+    bool recording = true;
     TimerMM status(real.clock, [&] {
+        if (recording && !real.recorder.complaint().empty()) {
+            recording = false;
+            terminal.line(real.recorder.complaint());
+        }
         terminal.live(statusLine(station.values, station.gui.txtRobotStatus.text(),
                                  station.gui.ConnectionList.count() > 0,
                                  static_cast<double>(real.clock.nowMs() - startMs) / 1000));
@@ -69,8 +75,9 @@ int runStation(RealStation& real, Terminal& terminal) {
     status.setInterval(terminal.isTerminal() ? 200 : 1000);
     status.setEnabled(true);
     real.files.onWriteFailed = [&](const std::string& path) { terminal.line("cannot write " + path); };
-    const SignalWatch signals(real.clock, [&] { endByOperator(station); });
-    real.clock.post([&] { logIn(station); });
+    const SignalWatch signals(real.time, [&] { endByOperator(station); });
+    real.beginSession(station);
+    real.time.post([&] { logIn(station); });
     try {
         real.clock.run();
     } catch (const ProgramEnd&) {
@@ -81,7 +88,8 @@ int runStation(RealStation& real, Terminal& terminal) {
         return kCannotStart;
     } catch (const std::exception& error) {
         stopDrives(real.myRobot);
-        const std::string& place = real.clock.failedIn();
+        real.recorder.flush();
+        const std::string& place = real.time.failedIn();
         terminal.line("quorrin-station-headless: program error" + (place.empty() ? "" : " in " + place) +
                       ": " + error.what());
         return kProgramError;

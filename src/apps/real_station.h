@@ -7,13 +7,18 @@
 
 #include "platform/host/host_folders.h"
 #include "platform/host/lock_window.h"
+#include "platform/host/posix_append_file.h"
 #include "platform/host/posix_files.h"
 #include "platform/host/posix_programs.h"
 #include "platform/host/station_window.h"
+#include "platform/paced_clock.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_streams.h"
 #include "robotlink/gateway_link.h"
 #include "session/first_start.h"
+#include "session/flight_recorder.h"
+#include "session/recorded_link.h"
+#include "session/station.h"
 
 namespace quorrin {
 
@@ -23,10 +28,16 @@ struct RealStation {
     // "" when all folders are there, else the one that cannot be made.
     std::string missingFolder = createHostFolders(files, host);
     QtClock clock;
+    // The session's own time; what a station does on it can be replayed exactly.
+    PacedClock time{clock};
     QtStreams streams{clock, host.run};
     LockWindow window{host.run, kStationTitle};
-    GatewayLink myRobot{clock, streams, files};
-    GatewayLink robotTI{clock, streams, files};
+    GatewayLink myRobot{time, streams, files};
+    GatewayLink robotTI{time, streams, files};
+    // What comes in, written down; the station uses the links through it.
+    FlightRecorder recorder{time, files, createPosixAppendFile, host.state};
+    RecordedLink recordedMyRobot{myRobot, LinkName::myRobot, recorder};
+    RecordedLink recordedRobotTI{robotTI, LinkName::robotTI, recorder};
     // Goes first at the end: it waits for the gateways that were asked to close.
     PosixPrograms programs{host.run};
 
@@ -41,6 +52,14 @@ struct RealStation {
             claimed = window.claim();
         }
         return claimed == WindowClaim::taken;
+    }
+
+    // The session begins now: its time 0, and its recording. Before the login loads.
+    void beginSession(Station& station) {
+        recordedRobotTI.setSoundBuffer([this](Long address) { return robotTI.soundBuffer(address); });
+        for (Form* form : station.forms()) recorder.watchForm(*form, form == &station.gui);
+        time.begin();
+        recorder.begin();
     }
 
     // Fills the application folder; one line for each thing that could not be supplied.

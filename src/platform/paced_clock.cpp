@@ -27,6 +27,7 @@ PacedClock::PacedClock(Clock& host) : host_(host), beganMs_(host.nowMs()) {}
 void PacedClock::begin() {
     beganMs_ = host_.nowMs();
     lostMs_ = 0;
+    wake_.reset();
     arm();
 }
 

@@ -8,8 +8,9 @@ namespace quorrin {
 
 class PrintingLink : public ScriptedLink {
   public:
-    PrintingLink(QuorrinSDK& inner, LinkName name, Output& output, Files& files)
-        : ScriptedLink(name, output, files, "/app"), inner_(inner) {
+    PrintingLink(QuorrinSDK& inner, LinkName name, Output& output, Files& files,
+                 const std::string& applicationFolder = "/app")
+        : ScriptedLink(name, output, files, applicationFolder), inner_(inner) {
         for (const FrameKind& kind : frameKinds()) {
             if (kind.link != name) continue;
             (inner.*kind.event).handler = [this, &kind] {
