@@ -23,6 +23,7 @@ std::vector<Vec2> rectangle(Vec2 middle, double width, double depth, double angl
 std::vector<Vec2> disc(Vec2 middle, double radius) {
     constexpr int corners = 12;
     std::vector<Vec2> outline;
+    outline.reserve(corners);
     for (int i = 0; i < corners; ++i)
         outline.push_back(middle + unitVector(2.0 * kExactPi * i / corners) * radius);
     return outline;
