@@ -7,6 +7,8 @@
 namespace quorrin {
 namespace {
 
+using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 const std::string kPower =
@@ -102,17 +104,34 @@ TEST(ReplayRefusals, ABadFirstLineRunsNothing) {
 }
 
 TEST(ReplayRefusals, ABadLineReachedInsideAnotherLinesYieldLetsThatOneHaveItsWholeEffect) {
+    // The way out yields at 4000, when it has closed the first gateway.
     const ScriptOutcome outcome = runScript(
-        "{\"t\": 0, \"login\": true}\n"
-        "{\"t\": 100, \"click\": \"frmLogin.cmdOK\"}\n"
-        "{\"t\": 100, \"click\": \"cmdNope\"}\n"
-        "{\"t\": 100, \"click\": \"cmdExit\"}\n");
+        "{\"t\": 1160, \"click\": \"cmdStart\"}\n"
+        "{\"t\": 3000, \"click\": \"cmdExit\"}\n"
+        "{\"t\": 3100, \"click\": \"cmdNope\"}\n"
+        "{\"t\": 3200, \"frame\": \"ImageFrame\"}\n");
+    EXPECT_EQ(outcome.end, ReplayEnd::scriptEnded);
+    EXPECT_THAT(outcome.linesWith("\"t\": 4000"),
+                ElementsAre("{\"t\": 4000, \"close\": \"Quorrin Gateway_MotionControl\", \"found\": true}",
+                            "{\"t\": 4000, \"close\": \"Quorrin Gateway_Multimedia\", \"found\": true}",
+                            "{\"t\": 4000, \"ended\": true}"));
+}
+
+TEST(ReplayRefusals, ABadLineReachedInsideATimersYieldEndsTheRunThere) {
+    // Twenty seconds of silence: the tick due at 23000 blocks a second, closes a gateway and yields.
+    std::string script = "{\"t\": 1100, \"click\": \"cmdStart\"}\n";
+    for (int t = 1150; t < 3000; t += 100)
+        script += "{\"t\": " + std::to_string(t) + ", \"frame\": \"SensorFrame\"}\n";
+    const ScriptOutcome outcome = runScript(script +
+                                            "{\"t\": 23500, \"click\": \"cmdNope\"}\n"
+                                            "{\"t\": 23600, \"frame\": \"ImageFrame\"}\n");
     EXPECT_EQ(outcome.end, ReplayEnd::badScript);
-    EXPECT_EQ(outcome.error.line, 3);
-    EXPECT_EQ(outcome.output,
-              "{\"t\": 100, \"close\": \"Quorrin Gateway_MotionControl\", \"found\": false}\n"
-              "{\"t\": 100, \"close\": \"Quorrin Gateway_Multimedia\", \"found\": false}\n" +
-                  loadTranscript(100));
+    EXPECT_EQ(outcome.error.reason, "unknown control \"cmdNope\"");
+    // The navigator's tick, due at 23000 too, comes before the line.
+    EXPECT_THAT(outcome.linesWith("\"t\": 24000"),
+                ElementsAre("{\"t\": 24000, \"close\": \"Quorrin Gateway_MotionControl\", \"found\": true}",
+                            HasSubstr("\"op\": \"SetDriveVelocities\"")));
+    EXPECT_THAT(outcome.lines().back(), HasSubstr("SetDriveVelocities"));
 }
 
 TEST(ReplayRefusals, AScriptThatCannotBeReadIsRefused) {

@@ -1,6 +1,8 @@
 // Time and order of a replay: what comes before what, and when a run ends.
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "support/load_transcript.h"
 #include "support/replay_script.h"
 
@@ -122,13 +124,21 @@ TEST(ReplayTime, APeriodicTimersMissedPeriodsCollapseIntoOneLateEvent) {
 }
 
 TEST(ReplayTime, AYieldDeliversTheLinesThatAreDueNested) {
-    // Closing the login's gateways yields: the line at the same time is run inside the click that came before
-    // it.
-    const ScriptOutcome outcome =
-        runScript("{\"t\": 0, \"login\": true}\n" + click(100, "frmLogin.cmdOK") +
-                  watch(100, "gatewayWindowTitle", 10000) + set(1200, "txtTh1", "41"));
-    EXPECT_THAT(outcome.linesWith("state"),
-                ElementsAre(state(1100, "gatewayWindowTitle", "\"Quorrin Gateway_Multimedia\"")));
+    // The way out blocks a second; then each gateway that it closes is given time to go. No watch prints
+    // there.
+    const ScriptOutcome outcome = runScript(
+        click(1160, "cmdStart") + click(3000, "cmdExit") + "{\"t\": 3100, \"frame\": \"ImageFrame\"}\n" +
+        watch(3150, "txtTh1", 10) + "{\"t\": 4001, \"frame\": \"ImageFrame\"}\n");
+    const auto lines = outcome.lines();
+    const auto begin =
+        std::find(lines.begin(), lines.end(),
+                  "{\"t\": 3000, \"link\": \"robotTI\", \"op\": \"StopSoundPlayback\", \"args\": []}");
+    EXPECT_THAT(std::vector<std::string>(begin, lines.end()),
+                ElementsAre(HasSubstr("StopSoundPlayback"),
+                            "{\"t\": 4000, \"close\": \"Quorrin Gateway_MotionControl\", \"found\": true}",
+                            "{\"t\": 4000, \"link\": \"robotTI\", \"op\": \"RequestImage\", \"args\": []}",
+                            "{\"t\": 4000, \"close\": \"Quorrin Gateway_Multimedia\", \"found\": true}",
+                            "{\"t\": 4000, \"ended\": true}"));
 }
 
 TEST(ReplayTime, TheDateIsTheWallClockAtZero) {
