@@ -147,7 +147,11 @@ TEST_F(GatewayLinkTest, SendsEveryMotionOperationWithItsArguments) {
     EXPECT_EQ(heard().suspend_drive().channel(), 1);
 
     link.SelectLandmarks(1, 2, 3, 4);
-    EXPECT_EQ(heard().select_landmarks().fourth(), 4);
+    const auto landmarks = heard().select_landmarks();
+    EXPECT_EQ(landmarks.first(), 1);
+    EXPECT_EQ(landmarks.second(), 2);
+    EXPECT_EQ(landmarks.third(), 3);
+    EXPECT_EQ(landmarks.fourth(), 4);
 }
 
 TEST_F(GatewayLinkTest, SendsEveryMultimediaOperation) {

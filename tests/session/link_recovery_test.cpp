@@ -224,5 +224,21 @@ TEST_F(LinkRecovery, FramesInItsYieldsCountAndStartNothing) {
     EXPECT_TRUE(values.tickEnabled);
 }
 
+// The reason why power frames should not come faster than ten a second: eleven of them inside the recovery
+// raise the link before the session waits for its start, and then nothing but the START key starts it.
+TEST_F(LinkRecovery, ElevenFramesInItsYieldsLeaveTheStartToTheOperator) {
+    silentSession();
+    const auto tickAt = (bench.clock.nowMs() / 100 + 1) * 100;
+    for (int i = 1; i <= 11; ++i) FakeLink::arriveAt(bench.clock, tickAt + 50 * i, bench.robotTI.PowerFrame);
+    bench.tick();
+    EXPECT_TRUE(values.tiLinkUp);
+    bench.powerFrames(40);
+    bench.tick(300);
+    EXPECT_FALSE(values.tickEnabled);
+    EXPECT_EQ(gui.txtRobotStatus.text(), "comm wrong");
+    gui.cmdStart.operatorClick();
+    EXPECT_TRUE(values.tickEnabled);
+}
+
 }  // namespace
 }  // namespace quorrin
