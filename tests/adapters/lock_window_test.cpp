@@ -148,6 +148,18 @@ TEST_F(LockWindowTest, AFolderThatIsNotThereCannotBeClaimed) {
     EXPECT_NE(nowhere.claim(), WindowClaim::taken);
 }
 
+TEST_F(LockWindowTest, OneThatHangsASecondAfterItWasAskedToCloseIsKilledByTheNextStart) {
+    Other hung([&] { theirs.claim(); });
+    ::kill(hung.process(), SIGSTOP);
+    programs.postClose(programs.findWindow(kTitle));
+    programs.start("/bin/true");
+    EXPECT_EQ(programs.findWindow(kTitle), hung.process()) << "it has its second";
+    waitForReal([] { return false; }, 1000);
+    programs.start("/bin/true");
+    EXPECT_EQ(programs.findWindow(kTitle), 0);
+    EXPECT_EQ(WTERMSIG(hung.collect()), SIGKILL);
+}
+
 class PosixProgramsTest : public ::testing::Test {
   protected:
     // A program of the test's own; it runs in the folder of the test.

@@ -14,6 +14,16 @@ namespace quorrin {
 
 namespace {
 
+constexpr int kLooks = 200;
+constexpr timespec kPause{0, 5'000'000};
+constexpr std::int64_t kHungMs = 1000;
+
+std::int64_t steadyMs() {
+    timespec now{};
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    return std::int64_t{now.tv_sec} * 1000 + now.tv_nsec / 1'000'000;
+}
+
 // In the child, between fork and exec: only calls that are safe there.
 [[noreturn]] void becomeProgram(const char* path) {
     ::setsid();
@@ -31,8 +41,6 @@ namespace {
 }  // namespace
 
 PosixPrograms::~PosixPrograms() {
-    constexpr int kLooks = 200;
-    constexpr timespec kPause{0, 5'000'000};
     collect();
     for (int i = 0; i < kLooks && closing(); ++i) {
         ::nanosleep(&kPause, nullptr);
@@ -41,10 +49,25 @@ PosixPrograms::~PosixPrograms() {
 }
 
 void PosixPrograms::start(const std::string& path) {
+    killHung();
     collect();
     const pid_t child = ::fork();
     if (child == 0) becomeProgram(path.c_str());
     if (child > 0) started_.push_back(child);
+}
+
+void PosixPrograms::killHung() {
+    for (auto asked = asked_.begin(); asked != asked_.end();) {
+        const auto [window, askedMs] = *asked;
+        const bool shown = isWindow(window);
+        if (shown && steadyMs() - askedMs < kHungMs) {
+            ++asked;
+            continue;
+        }
+        if (shown) ::kill(static_cast<pid_t>(window), SIGKILL);
+        for (int i = 0; i < kLooks && isWindow(window); ++i) ::nanosleep(&kPause, nullptr);
+        asked = asked_.erase(asked);
+    }
 }
 
 void PosixPrograms::collect() {
@@ -54,9 +77,8 @@ void PosixPrograms::collect() {
 }
 
 bool PosixPrograms::closing() const {
-    return std::any_of(asked_.begin(), asked_.end(), [this](pid_t asked) {
-        return std::find(started_.begin(), started_.end(), asked) != started_.end();
-    });
+    return std::any_of(started_.begin(), started_.end(),
+                       [this](pid_t started) { return asked_.count(started) != 0; });
 }
 
 Programs::Window PosixPrograms::findWindow(const std::string& title) {
@@ -73,8 +95,8 @@ bool PosixPrograms::isWindow(Window window) {
 
 void PosixPrograms::postClose(Window window) {
     if (!isWindow(window)) return;
-    asked_.push_back(static_cast<pid_t>(window));
-    ::kill(asked_.back(), SIGTERM);
+    asked_.emplace(window, steadyMs());
+    ::kill(static_cast<pid_t>(window), SIGTERM);
 }
 
 }  // namespace quorrin

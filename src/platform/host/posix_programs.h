@@ -2,7 +2,9 @@
 //
 // A started program gets a session of its own (Ctrl-C on this program's terminal is not for it), the same
 // environment, and nothing to read or write on: it keeps a log of its own. A Window is its process id. Asking
-// a window to close is SIGTERM to the process that holds the title's lock at that moment.
+// a window to close is SIGTERM to the process that holds the title's lock at that moment. One that still
+// shows its window a second after it was asked hangs, and would keep its successor out: the next start()
+// kills it.
 //
 // Started programs are collected when they end. The destructor waits up to a second for those that were asked
 // to close, so that a station leaves nothing behind; after that they are on their own.
@@ -12,6 +14,7 @@
 
 #include <sys/types.h>
 
+#include <cstdint>
 #include <map>
 #include <string>
 #include <vector>
@@ -36,10 +39,11 @@ class PosixPrograms : public Programs {
     void collect();
     // A started program that was asked to close is still there.
     bool closing() const;
+    void killHung();
 
     std::string runFolder_;
     std::vector<pid_t> started_;            // and not collected yet
-    std::vector<pid_t> asked_;              // to close
+    std::map<Window, std::int64_t> asked_;  // to close, and when (ms)
     std::map<Window, std::string> titles_;  // of the windows that were found
 };
 
