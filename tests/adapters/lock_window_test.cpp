@@ -149,8 +149,10 @@ TEST_F(LockWindowTest, AFolderThatIsNotThereCannotBeClaimed) {
 }
 
 TEST_F(LockWindowTest, OneThatHangsASecondAfterItWasAskedToCloseIsKilledByTheNextStart) {
-    Other hung([&] { theirs.claim(); });
-    ::kill(hung.process(), SIGSTOP);
+    Other hung([&] {
+        std::signal(SIGTERM, SIG_IGN);
+        theirs.claim();
+    });
     programs.postClose(programs.findWindow(kTitle));
     programs.start("/bin/true");
     EXPECT_EQ(programs.findWindow(kTitle), hung.process()) << "it has its second";
