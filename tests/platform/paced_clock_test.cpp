@@ -81,18 +81,18 @@ TEST_F(PacedTime, WhatHappensOutsideAfterATimerOfTheSameMillisecondGetsTheNextOn
 TEST_F(PacedTime, ABlockHoldsTheHostUntilItHasCaughtUp) {
     std::int64_t hostAfter = 0;
     std::int64_t after = 0;
+    TimerMM timer(paced);
     busy(90, 30);
     host.arriveAt(10, [&] {
         // Due at 100 in the session, delivered at 120 by the busy machine.
-        auto timer = std::make_shared<TimerMM>(paced);
-        timer->setPeriodic(false);
-        timer->setHandler([&, timer] {
+        timer.setPeriodic(false);
+        timer.setHandler([&] {
             paced.block(200);
             after = paced.nowMs();
             hostAfter = host.nowMs();
         });
-        timer->setInterval(1);
-        timer->startAt(100);
+        timer.setInterval(1);
+        timer.startAt(100);
     });
     host.runUntil(400);
     EXPECT_EQ(after, 300);
