@@ -229,15 +229,19 @@ class Picture : public Control {
     std::int64_t refreshes_ = 0;
 };
 
-// A group of controls that is shown, hidden and moved as one. Position in twips.
+// A group of controls that is shown, hidden and moved as one.
 class Frame : public Control {
   public:
     Frame(Form& form, std::string name, std::string caption = "");
     const std::string& caption() const { return caption_; }
     std::string valueText() const override { return caption_; }
+    // Where it is in its form's window; told by a view.
+    const Area& area() const { return area_; }
+    void setArea(const Area& area) { area_ = area; }
 
   private:
     std::string caption_;
+    Area area_;
 };
 
 // A form's timer: periodic, found by name like any control.

@@ -24,6 +24,12 @@ void Form::activate() {
     if (shown_ && onActivate) onActivate();
 }
 
+void Form::moveTo(std::int32_t left, std::int32_t top) {
+    area_.left = left;
+    area_.top = top;
+    if (onMoved) onMoved();
+}
+
 void Form::operatorClose() {
     if (!shown_) return;
     if (onOperatorAct) onOperatorAct({OperatorAct::Kind::close, nullptr, {}});

@@ -15,6 +15,8 @@
 #include <variant>
 #include <vector>
 
+#include "base/area.h"
+
 namespace quorrin {
 
 class Control;
@@ -47,6 +49,12 @@ class Form {
     // Closes the form's window. Does nothing while the form is not shown.
     void close();
 
+    // Where the form's window is; told by a view, all zero without one.
+    const Area& area() const { return area_; }
+    void setArea(const Area& area) { area_ = area; }
+    // The program moves the window, keeping its size.
+    void moveTo(std::int32_t left, std::int32_t top);
+
     // The operator does the same.
     void operatorClose();
     void operatorActivate();
@@ -74,10 +82,12 @@ class Form {
     std::function<void()> onShownChanged;
     std::function<void()> onActivate;
     std::function<void()> onFocusMoved;
+    std::function<void()> onMoved;
 
   private:
     friend class Control;
     std::string name_;
+    Area area_;
     bool shown_ = false;
     bool stay_ = false;
     Control* focused_ = nullptr;

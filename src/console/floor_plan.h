@@ -3,12 +3,12 @@
 
 #include <string>
 
+#include "base/area.h"
 #include "platform/files.h"
 #include "session/record/map_controls.h"
 
 namespace quorrin {
 
-constexpr int kTwipsPerPixel = 15;
 // Size of the viewport.
 constexpr int kViewportWidthTwips = 9000;
 constexpr int kViewportHeightTwips = 6750;

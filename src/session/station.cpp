@@ -3,6 +3,7 @@
 #include "base/program_error.h"
 #include "console/login.h"
 #include "console/session_paths.h"
+#include "session/console_rooms.h"
 #include "session/end_task.h"
 #include "session/main_form.h"
 
@@ -10,7 +11,10 @@ namespace quorrin {
 
 struct Station::Parts {
     Parts(const StationPorts& ports, Station& station)
-        : mainForm(ports, station.values, station.gui, station.controlPanel, station.seams),
+        : console(ports,
+                  {station.values, station.gui, station.controlPanel, station.zoomCamera, station.about},
+                  station.seams),
+          mainForm(ports, station.values, station.gui, station.controlPanel, station.seams),
           loginLogic(station.login, station.values, ports.files, ports.boxes, ports.folders,
                      {[ports, &station](const std::string& title) {
                           EndTask(title, station.values, ports.programs, ports.boxes, ports.clock);
@@ -21,6 +25,7 @@ struct Station::Parts {
                           throw ProgramEnd{};
                       }}) {}
 
+    ConsoleRooms console;
     MainForm mainForm;
     Login loginLogic;
 };
@@ -29,6 +34,8 @@ Station::Station(const StationPorts& ports)
     : login(ports.clock),
       gui(ports.clock),
       controlPanel(ports.clock),
+      zoomCamera(ports.clock),
+      about(ports.clock),
       ports_(ports),
       parts_(std::make_unique<Parts>(ports, *this)) {}
 
@@ -50,7 +57,7 @@ void Station::showMainForm() {
 }
 
 std::vector<Form*> Station::forms() {
-    return {&gui, &login, &controlPanel};
+    return {&gui, &login, &controlPanel, &zoomCamera, &about};
 }
 
 const speedP2PVFH* Station::navigator() const {
@@ -67,6 +74,10 @@ const SensorMapBuilder* Station::sensorMap() const {
 
 const AntiStuck* Station::antiStuck() const {
     return parts_->mainForm.antiStuck();
+}
+
+ConsoleRooms& Station::console() {
+    return parts_->console;
 }
 
 }  // namespace quorrin

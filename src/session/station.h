@@ -12,9 +12,11 @@
 #include <memory>
 #include <vector>
 
+#include "console/frm_about.h"
 #include "console/frm_control_panel.h"
 #include "console/frm_gui.h"
 #include "console/frm_login.h"
+#include "console/frm_zoom_camera.h"
 #include "session/record/public_values.h"
 #include "session/session_seams.h"
 #include "session/station_ports.h"
@@ -22,6 +24,7 @@
 namespace quorrin {
 
 class AntiStuck;
+class ConsoleRooms;
 class GPS;
 class SensorMapBuilder;
 class speedP2PVFH;
@@ -35,6 +38,8 @@ class Station {
     frmLogin login;
     frmGUI gui;
     frmControlPanel controlPanel;
+    frmZoomCamera zoomCamera;
+    frmAbout about;
     // Places of the rooms above; to be set before the main form loads.
     SessionSeams seams;
 
@@ -51,6 +56,8 @@ class Station {
     const GPS* gps() const;
     const SensorMapBuilder* sensorMap() const;
     const AntiStuck* antiStuck() const;
+    // What the console's forms do; lives as long as the station.
+    ConsoleRooms& console();
 
   private:
     struct Parts;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "platform/clock.h"
 #include "platform/files.h"
@@ -22,6 +23,8 @@ struct StationPorts {
     Folders folders;
     // Ends the program; should not return.
     std::function<void()> endProgram;
+    // Opens a page in the operator's browser; an empty place opens nothing.
+    std::function<void(const std::string& address)> openWebPage = {};
 };
 
 }  // namespace quorrin
