@@ -1,4 +1,4 @@
-"""A live session for the proofs: simulated robot, station without windows, their folders, what they say.
+"""A live session for the proofs: simulated robot, station, their folders, what they say.
 
 Everything runs on loopback in a network namespace of its own where the machine allows that (run_in_namespace), and in
 folders of its own. Times are seconds; a truth line's `t` counts from the robot's start, `offset` brings wall time to it.
@@ -64,11 +64,12 @@ class Session:
             return subprocess.Popen([self.bin / program, *arguments], stdin=subprocess.DEVNULL, stdout=file,
                                     stderr=file, env=self.environment, start_new_session=True)
 
-    def start_station(self):
+    def start_station(self, program="quorrin-station-headless", environment=()):
+        self.environment.update(environment)
         eventually(lambda: self.truth(), 10, "the robot's truth file")
         self.measure_offset()
         self.output_file.unlink(missing_ok=True)
-        self.station = self.start("station.out", "quorrin-station-headless")
+        self.station = self.start("station.out", program)
         self.started = time.monotonic()
 
     def __enter__(self):
