@@ -23,6 +23,12 @@ void Label::setCaption(std::string caption) {
     run(onChange);
 }
 
+void Label::operatorClick() {
+    if (!usable() || !onClick) return;
+    acts(OperatorAct::Kind::click);
+    onClick();
+}
+
 TextBox::TextBox(Form& form, std::string name, std::string text, Accepts accepts)
     : Control(form, std::move(name)), text_(std::move(text)), accepts_(accepts) {}
 
@@ -250,7 +256,34 @@ void Picture::setNumber(int number) {
 
 void Picture::setFile(std::string file) {
     file_ = std::move(file);
+    content_.reset();
     looks();
+}
+
+void Picture::setContent(std::string file, std::string content) {
+    if (content_ && file == file_ && content == *content_) return;
+    file_ = std::move(file);
+    content_ = std::make_shared<const std::string>(std::move(content));
+    looks();
+}
+
+void Picture::clear() {
+    number_ = 0;
+    file_.clear();
+    content_.reset();
+    looks();
+}
+
+void Picture::operatorKeyDown(int key) {
+    if (!usable() || !onKeyDown) return;
+    acts(OperatorAct::Kind::keyDown, std::int64_t{key});
+    onKeyDown(key);
+}
+
+void Picture::operatorKeyUp(int key) {
+    if (!usable() || !onKeyUp) return;
+    acts(OperatorAct::Kind::keyUp, std::int64_t{key});
+    onKeyUp(key);
 }
 
 void Picture::refresh() {
@@ -264,6 +297,12 @@ std::string Picture::valueText() const {
 
 Frame::Frame(Form& form, std::string name, std::string caption)
     : Control(form, std::move(name)), caption_(std::move(caption)) {}
+
+void Frame::moveTo(std::int32_t left, std::int32_t top) {
+    area_.left = left;
+    area_.top = top;
+    looks();
+}
 
 Timer::Timer(Form& form, std::string name, Clock& clock, std::int64_t intervalMs)
     : Control(form, std::move(name)), timer_(clock) {

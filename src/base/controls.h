@@ -32,7 +32,10 @@ class Label : public Control {
     const std::string& caption() const { return caption_; }
     void setCaption(std::string caption);
     std::string valueText() const override { return caption_; }
+    // Does nothing on a label that is not clicked on.
+    void operatorClick();
     std::function<void()> onChange;
+    std::function<void()> onClick;
 
   private:
     std::string caption_;
@@ -145,6 +148,8 @@ class Slider : public Control {
     void setRange(std::int32_t minimum, std::int32_t maximum);
     std::int32_t smallChange = 1;
     std::int32_t largeChange = 1;
+    // Drawn from its maximum, at the top or the left, down to its minimum; otherwise the other way round.
+    bool maximumFirst = false;
     std::string valueText() const override { return std::to_string(value_); }
     void operatorMove(std::int32_t value);
     std::function<void()> onChange;
@@ -209,7 +214,8 @@ class Shape : public Control {
     Colour fill_;
 };
 
-// A picture: from the form's image list by number (0: none), or from a file by path.
+// A picture: from the form's image list by number (0: none), or from a file by path. A view reads the file,
+// but for one whose content stands here: a file that is written while it is looked at.
 class Picture : public Control {
   public:
     Picture(Form& form, std::string name);
@@ -217,15 +223,29 @@ class Picture : public Control {
     void setNumber(int number);
     const std::string& file() const { return file_; }
     void setFile(std::string file);
+    // The whole content of the file where the program has read it, else null.
+    const std::shared_ptr<const std::string>& content() const { return content_; }
+    // The same file with the same content changes nothing.
+    void setContent(std::string file, std::string content);
+    // Neither number nor file.
+    void clear();
     // How often the picture was told to draw itself anew.
     std::int64_t refreshes() const { return refreshes_; }
     void refresh();
     // The number, or the file where one was loaded.
     std::string valueText() const override;
 
+    // Keys, on a picture whose form listens to them. Not on their way up: what auto-repeat makes of a key
+    // that is held.
+    void operatorKeyDown(int key);
+    void operatorKeyUp(int key);
+    std::function<void(int key)> onKeyDown;
+    std::function<void(int key)> onKeyUp;
+
   private:
     int number_ = 0;
     std::string file_;
+    std::shared_ptr<const std::string> content_;
     std::int64_t refreshes_ = 0;
 };
 
@@ -238,6 +258,8 @@ class Frame : public Control {
     // Where it is in its form's window; told by a view.
     const Area& area() const { return area_; }
     void setArea(const Area& area) { area_ = area; }
+    // The program moves the frame, keeping its size.
+    void moveTo(std::int32_t left, std::int32_t top);
 
   private:
     std::string caption_;

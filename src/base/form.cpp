@@ -14,9 +14,15 @@ void Form::show() {
     activate();
 }
 
+void Form::showModal() {
+    if (!shown_) modal_ = true;
+    show();
+}
+
 void Form::hide() {
     if (!shown_) return;
     shown_ = false;
+    modal_ = false;
     if (onShownChanged) onShownChanged();
 }
 

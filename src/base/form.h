@@ -23,7 +23,8 @@ class Control;
 
 // One thing that an operator did to a form or to one of its controls.
 struct OperatorAct {
-    enum class Kind { click, press, release, set, key, focus, close, activate };
+    // key: a key press in a box; keyDown, keyUp: the two ways of a key on a picture that takes keys.
+    enum class Kind { click, press, release, set, key, keyDown, keyUp, focus, close, activate };
     Kind kind = Kind::click;
     // Null for what is done to the form itself.
     const Control* control = nullptr;
@@ -43,6 +44,9 @@ class Form {
     bool shown() const { return shown_; }
     // Showing a form makes its window the active one.
     void show();
+    // The same, and no other form of the station can be used until this one is gone. Returns at once.
+    void showModal();
+    bool modal() const { return shown_ && modal_; }
     void hide();
     // The form's window became the active one. Does nothing while the form is not shown.
     void activate();
@@ -74,13 +78,14 @@ class Form {
 
     // What the form does when its window is closed; set by the form's logic. Without one the form is hidden.
     std::function<void()> onClose;
+    // What the form does each time it becomes the active one; set by the form's logic.
+    std::function<void()> onActivate;
 
     // Something that the operator does is about to have its effect; for whoever writes sessions down.
     std::function<void(const OperatorAct& act)> onOperatorAct;
 
     // Hooks of a view; run after the change.
     std::function<void()> onShownChanged;
-    std::function<void()> onActivate;
     std::function<void()> onFocusMoved;
     std::function<void()> onMoved;
 
@@ -89,6 +94,7 @@ class Form {
     std::string name_;
     Area area_;
     bool shown_ = false;
+    bool modal_ = false;
     bool stay_ = false;
     Control* focused_ = nullptr;
     std::map<std::string, Control*, std::less<>> byName_;

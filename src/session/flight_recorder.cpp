@@ -164,6 +164,13 @@ void FlightRecorder::act(const std::string& prefix, const Form& form, bool mainF
             appendValue(members, done.value);
             return line(members + ", " + member("on", name));
         }
+        // The control panel is the only form with keys of its own.
+        case OperatorAct::Kind::keyDown:
+        case OperatorAct::Kind::keyUp: {
+            std::string members = done.kind == OperatorAct::Kind::keyDown ? "\"keyDown\": " : "\"keyUp\": ";
+            appendValue(members, done.value);
+            return line(members);
+        }
     }
 }
 

@@ -289,6 +289,40 @@ TEST_F(Controls, PrintTheirValueForAWatch) {
     EXPECT_EQ(frame.valueText(), "Power Status");
 }
 
+TEST_F(Controls, KeepTheContentOfAPictureThatTheProgramHasRead) {
+    Picture picture(form, "picture");
+    int drawn = 0;
+    picture.onLook = [&drawn] { ++drawn; };
+    picture.setContent("/a.bmp", "BM1");
+    EXPECT_EQ(*picture.content(), "BM1");
+    EXPECT_EQ(picture.valueText(), "/a.bmp");
+    EXPECT_EQ(drawn, 1);
+    picture.setContent("/a.bmp", "BM1");
+    EXPECT_EQ(drawn, 1);
+    const auto before = picture.content();
+    picture.setContent("/a.bmp", "BM2");
+    EXPECT_EQ(drawn, 2);
+    EXPECT_EQ(*before, "BM1");
+    picture.clear();
+    EXPECT_EQ(picture.content(), nullptr);
+    EXPECT_EQ(picture.valueText(), "0");
+    EXPECT_EQ(drawn, 3);
+}
+
+TEST_F(Controls, LoseThePicturesContentWithAnotherFile) {
+    Picture picture(form, "picture");
+    picture.setContent("/a.bmp", "BM1");
+    picture.setFile("/b.bmp");
+    EXPECT_EQ(picture.content(), nullptr);
+}
+
+TEST_F(Controls, MoveAFrameKeepingItsSize) {
+    Frame frame(form, "frame");
+    frame.setArea({1, 2, 30, 40});
+    frame.moveTo(5, 6);
+    EXPECT_EQ(frame.area(), (Area{5, 6, 30, 40}));
+}
+
 TEST_F(Controls, RunAFormsTimerOnItsClock) {
     VirtualClock clock;
     Timer timer(form, "timer", clock, 100);

@@ -30,6 +30,18 @@ class FormTest : public ::testing::Test {
     int moves = 0;
 };
 
+TEST_F(FormTest, IsModalOnlyWhileItIsShownSo) {
+    form.showModal();
+    EXPECT_TRUE(form.shown());
+    EXPECT_TRUE(form.modal());
+    form.hide();
+    EXPECT_FALSE(form.modal());
+    form.show();
+    EXPECT_FALSE(form.modal());
+    form.showModal();
+    EXPECT_FALSE(form.modal());
+}
+
 TEST_F(FormTest, FindsItsControlsByName) {
     EXPECT_EQ(form.find("second"), &second);
     EXPECT_EQ(form.find("Second"), nullptr);

@@ -26,6 +26,8 @@ class OperatorActs : public testing::Test {
     CommandButton button{form, "cmdA"};
     CheckBox check{form, "chkA"};
     Slider slider{form, "sldA", 0, 100, 5};
+    Picture picture{form, "picA"};
+    Label label{form, "lblA"};
     std::vector<Kind> acts;
     decltype(OperatorAct::value) lastValue;
     std::string textThen;
@@ -52,6 +54,27 @@ TEST_F(OperatorActs, ComeBeforeTheirEffectAndWithTheirValue) {
     EXPECT_EQ(std::get<std::int64_t>(lastValue), 9);
     check.operatorSet(true);
     EXPECT_TRUE(std::get<bool>(lastValue));
+}
+
+TEST_F(OperatorActs, KeysOfAPictureAndClicksOnALabelAreToldWhereTheFormListens) {
+    picture.operatorKeyDown(38);
+    picture.operatorKeyUp(38);
+    label.operatorClick();
+    EXPECT_THAT(acts, IsEmpty());
+    int effects = 0;
+    picture.onKeyDown = picture.onKeyUp = [&effects](int key) { effects += key; };
+    label.onClick = [&effects] { ++effects; };
+    picture.operatorKeyDown(30);
+    picture.operatorKeyUp(40);
+    EXPECT_EQ(std::get<std::int64_t>(lastValue), 40);
+    label.operatorClick();
+    EXPECT_THAT(acts, ElementsAre(Kind::keyDown, Kind::keyUp, Kind::click));
+    EXPECT_EQ(effects, 71);
+    form.hide();
+    picture.operatorKeyDown(30);
+    picture.operatorKeyUp(40);
+    label.operatorClick();
+    EXPECT_EQ(effects, 71);
 }
 
 TEST_F(OperatorActs, WhatHasNoEffectIsNotTold) {
