@@ -1,0 +1,76 @@
+#include "desktop/theme/icons.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
+
+#include "desktop/theme/icon_paths.h"
+#include "desktop/theme/theme.h"
+
+namespace quorrin {
+
+namespace {
+
+constexpr double kGrid = 24;
+constexpr double kLine = 2;  // of the grid
+
+// Read once; drawing goes on all the time.
+const std::vector<IconPart>& partsOf(IconName name) {
+    static const std::vector<std::vector<IconPart>> all = [] {
+        std::vector<std::vector<IconPart>> parts;
+        for (int i = 0; i <= static_cast<int>(IconName::count); ++i)
+            parts.push_back(readIconParts(iconWords(static_cast<IconName>(i))));
+        return parts;
+    }();
+    return all[static_cast<std::size_t>(name)];
+}
+
+class DrawnIcon : public QIconEngine {
+  public:
+    DrawnIcon(IconName name, QColor colour, QColor disabled)
+        : name_(name), colour_(colour), disabled_(disabled) {}
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+        drawIcon(*painter, rect, name_, mode == QIcon::Disabled ? disabled_ : colour_);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+        return picture;
+    }
+    QIconEngine* clone() const override { return new DrawnIcon(*this); }
+
+  private:
+    IconName name_;
+    QColor colour_;
+    QColor disabled_;
+};
+
+}  // namespace
+
+void drawIcon(QPainter& painter, const QRectF& square, IconName name, const QColor& colour) {
+    const double side = qMin(square.width(), square.height());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(square.center().x() - side / 2, square.center().y() - side / 2);
+    painter.scale(side / kGrid, side / kGrid);
+    for (const IconPart& part : partsOf(name)) {
+        if (part.filled) {
+            painter.fillPath(part.path, colour);
+        } else {
+            painter.strokePath(part.path, QPen(colour, kLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        }
+    }
+    painter.restore();
+}
+
+QIcon icon(IconName name, const QColor& colour, const QColor& disabled) {
+    return QIcon(new DrawnIcon(name, colour, disabled));
+}
+
+QIcon icon(IconName name, const Theme& theme) {
+    return icon(name, theme.text, theme.disabled);
+}
+
+}  // namespace quorrin
