@@ -48,4 +48,4 @@ quorrin_library(quorrin_client FOLDERS client LINK quorrin_base)
 # The windows: widgets bound to the forms, nothing decided in them.
 quorrin_library(quorrin_desktop FOLDERS desktop desktop/binding desktop/forms desktop/theme desktop/views desktop/widgets
     LINK quorrin_station quorrin_base Qt6::Widgets)
-target_compile_definitions(quorrin_desktop INTERFACE QT_NO_KEYWORDS)
+target_compile_definitions(quorrin_desktop PUBLIC QT_NO_KEYWORDS)

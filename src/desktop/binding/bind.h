@@ -1,0 +1,35 @@
+// Binds widgets to controls, one function for each kind. The binding belongs to the widget; see binding.h for
+// its rules. These bind values, enabled and visible; names, tips, shortcuts and focus are the factory's.
+#pragma once
+
+#include <QAbstractButton>
+#include <QAbstractSlider>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QRadioButton>
+
+#include "base/controls.h"
+#include "desktop/operator_acts.h"
+#include "desktop/widgets/picture_view.h"
+
+namespace quorrin {
+
+// A box that takes any text gives each edit on at once; one for numbers gives it on when the operator
+// finishes it (Enter, or leaving the box), and takes a text that is not allowed, or that Escape ends, back.
+void bind(QLineEdit& widget, TextBox& control, const OperatorActs& acts);
+void bind(QLabel& widget, Label& control, const OperatorActs& acts);
+void bind(QAbstractButton& widget, CommandButton& control, const OperatorActs& acts);
+void bind(QCheckBox& widget, CheckBox& control, const OperatorActs& acts);
+void bind(QRadioButton& widget, OptionButton& control, const OperatorActs& acts);
+void bind(QAbstractSlider& widget, Slider& control, const OperatorActs& acts);
+void bind(QComboBox& widget, ComboBox& control, const OperatorActs& acts);
+void bind(QListWidget& widget, ListBox& control, const OperatorActs& acts);
+void bind(PictureView& widget, Picture& control, const OperatorActs& acts);
+// Also tells the control where the frame is in its window.
+void bind(QWidget& widget, Frame& control, const OperatorActs& acts);
+
+}  // namespace quorrin

@@ -1,0 +1,107 @@
+#include "desktop/binding/bind.h"
+#include "desktop/binding/binding.h"
+
+namespace quorrin {
+
+namespace {
+
+class SliderBinding : public Binding {
+  public:
+    SliderBinding(QAbstractSlider& widget, Slider& control, const OperatorActs& acts)
+        : Binding(widget, control, acts), widget_(widget), control_(control) {
+        connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
+            if (!writing()) act([&moved = control_, value] { moved.operatorMove(value); });
+        });
+        start();
+    }
+
+  protected:
+    void showValue() override {
+        if (widget_.minimum() != control_.minimum() || widget_.maximum() != control_.maximum())
+            widget_.setRange(control_.minimum(), control_.maximum());
+        if (widget_.singleStep() != control_.smallChange) widget_.setSingleStep(control_.smallChange);
+        if (widget_.pageStep() != control_.largeChange) widget_.setPageStep(control_.largeChange);
+        if (widget_.value() != control_.value()) widget_.setValue(control_.value());
+    }
+
+  private:
+    QAbstractSlider& widget_;
+    Slider& control_;
+};
+
+class ComboBinding : public Binding {
+  public:
+    ComboBinding(QComboBox& widget, ComboBox& control, const OperatorActs& acts)
+        : Binding(widget, control, acts), widget_(widget), control_(control) {
+        connect(&widget, &QComboBox::activated, this, [this](int index) {
+            act([&chosen = control_, item = widget_.itemText(index).toStdString()] {
+                chosen.operatorChoose(item);
+            });
+        });
+        start();
+    }
+
+  protected:
+    void showValue() override {
+        if (!sameItems()) {
+            widget_.clear();
+            for (const std::string& item : control_.items()) widget_.addItem(QString::fromStdString(item));
+        }
+        if (widget_.currentIndex() != control_.index()) widget_.setCurrentIndex(control_.index());
+    }
+
+  private:
+    bool sameItems() const {
+        if (widget_.count() != static_cast<int>(control_.items().size())) return false;
+        for (int i = 0; i < widget_.count(); ++i)
+            if (widget_.itemText(i).toStdString() != control_.items()[static_cast<std::size_t>(i)])
+                return false;
+        return true;
+    }
+
+    QComboBox& widget_;
+    ComboBox& control_;
+};
+
+class ListBinding : public Binding {
+  public:
+    ListBinding(QListWidget& widget, ListBox& control, const OperatorActs& acts)
+        : Binding(widget, control, acts), widget_(widget), control_(control) {
+        widget.setSelectionMode(QAbstractItemView::NoSelection);
+        start();
+    }
+
+  protected:
+    void showValue() override {
+        const int count = static_cast<int>(control_.count());
+        for (int i = 0; i < count; ++i) {
+            const QString line = QString::fromStdString(control_.line(static_cast<std::size_t>(i)));
+            if (i >= widget_.count()) {
+                widget_.addItem(line);
+            } else if (widget_.item(i)->text() != line) {
+                widget_.item(i)->setText(line);
+            }
+        }
+        while (widget_.count() > count) delete widget_.takeItem(widget_.count() - 1);
+    }
+
+  private:
+    QListWidget& widget_;
+    ListBox& control_;
+};
+
+}  // namespace
+
+void bind(QAbstractSlider& widget, Slider& control, const OperatorActs& acts) {
+    new SliderBinding(widget, control, acts);
+}
+
+void bind(QComboBox& widget, ComboBox& control, const OperatorActs& acts) {
+    new ComboBinding(widget, control, acts);
+}
+
+void bind(QListWidget& widget, ListBox& control, const OperatorActs& acts) {
+    new ListBinding(widget, control, acts);
+}
+
+}  // namespace quorrin

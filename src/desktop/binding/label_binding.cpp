@@ -1,0 +1,33 @@
+#include "desktop/binding/bind.h"
+#include "desktop/binding/binding.h"
+
+namespace quorrin {
+
+namespace {
+
+class LabelBinding : public Binding {
+  public:
+    LabelBinding(QLabel& widget, Label& control, const OperatorActs& acts)
+        : Binding(widget, control, acts), widget_(widget), control_(control) {
+        widget.setTextFormat(Qt::PlainText);
+        start();
+    }
+
+  protected:
+    void showValue() override {
+        const QString text = QString::fromStdString(control_.caption());
+        if (widget_.text() != text) widget_.setText(text);
+    }
+
+  private:
+    QLabel& widget_;
+    Label& control_;
+};
+
+}  // namespace
+
+void bind(QLabel& widget, Label& control, const OperatorActs& acts) {
+    new LabelBinding(widget, control, acts);
+}
+
+}  // namespace quorrin

@@ -1,0 +1,38 @@
+#include "desktop/binding/bind.h"
+#include "desktop/binding/binding.h"
+
+namespace quorrin {
+
+namespace {
+
+class PictureBinding : public Binding {
+  public:
+    PictureBinding(PictureView& widget, Picture& control, const OperatorActs& acts)
+        : Binding(widget, control, acts), widget_(widget), control_(control) {
+        start();
+    }
+
+  protected:
+    // Being told the same file again means that it has changed.
+    void showValue() override {
+        widget_.setNumber(control_.number());
+        if (!control_.file().empty()) widget_.setFile(QString::fromStdString(control_.file()));
+        if (refreshes_ != control_.refreshes()) {
+            refreshes_ = control_.refreshes();
+            widget_.update();
+        }
+    }
+
+  private:
+    PictureView& widget_;
+    Picture& control_;
+    std::int64_t refreshes_ = 0;
+};
+
+}  // namespace
+
+void bind(PictureView& widget, Picture& control, const OperatorActs& acts) {
+    new PictureBinding(widget, control, acts);
+}
+
+}  // namespace quorrin
