@@ -86,17 +86,30 @@ class Writer:
             return {"focus": r.choice(self.kinds["text"])}
         if what < 0.88:
             return {"keyDown": r.choice([8, 13, 38, 65]), "on": r.choice(self.kinds["text"])}
+        if what < 0.90:
+            return self.panel()
         if what < 0.92:
             return {"answer": r.choice(["yes", "no", "ok"])}
         if what < 0.97:
             return {"watch": r.sample(self.fields + self.controls, r.randint(0, 5)), "every": r.choice([1, 70, 100, 999])}
         return r.choice([{"unload": True}, {"unload": "frmControlPanel"}, {"activate": "frmControlPanel"}])
 
+    # The control panel: shown, driven by keys and buttons.
+    def panel(self):
+        r = self.random
+        what = r.random()
+        if what < 0.3:
+            return {"click": "cmdShowControlPanel"}
+        if what < 0.8:
+            key = r.choice([8, 32, 34, 35, 36, 37, 38, 39, 40, 46, 65, 0, 255])
+            return {r.choice(["keyDown", "keyDown", "keyUp"]): key}
+        return {r.choice(["press", "release"]): "frmControlPanel.cmdTurn" + r.choice(["Left", "Right"])}
+
     def nonsense(self):
         r = self.random
         return r.choice([{"click": "cmdNope"}, {"frame": "TailFrame"}, {"set": "txtTh1", "to": None},
                          {"joystick": {"x": 1}}, {"frame": "IrFrame", "IrAdc1": 40000}, {}, {"t": -1, "click": "cmdStart"},
-                         {"watch": ["robotX"], "every": 0}, {"login": True}, {"keyDown": 38}])
+                         {"watch": ["robotX"], "every": 0}, {"login": True}, {"keyDown": 256}])
 
     def text(self):
         r = self.random

@@ -1,11 +1,21 @@
-// frmControlPanel, the floating panel by which the operator drives. Controls only.
+// frmControlPanel, the floating panel by which the operator drives. Controls only; see control_panel.h for
+// what it does.
 //
-// Gas and brake run backwards: 10000 is none, 0 is full. hscSteering covers a tenth of the level's range.
+// Gas and brake run backwards: 10000 is none, 0 is full; the brake's bar has 10000 at its top, all others
+// have their lowest value at the top or the left. hscSteering covers a tenth of the level's range. sldLR and
+// sldUD only show where the head is told to look. Picture1 is the background, which takes the keys.
 #pragma once
 
 #include "base/controls.h"
 
 namespace quorrin {
+
+// How a window lies over others. A view makes of it what its window system offers.
+struct WindowStyle {
+    bool layered = false;  // can be seen through
+    int alpha = 255;       // of 255
+    bool topmost = false;
+};
 
 struct frmControlPanel : Form {
     explicit frmControlPanel(Clock& clock)
@@ -35,6 +45,7 @@ struct frmControlPanel : Form {
           Picture1(*this, "Picture1"),
           tmrButton(*this, "tmrButton", clock, 500) {
         scrGas.largeChange = 500;
+        scrBrake.maximumFirst = true;
     }
 
     Slider scrGas;
@@ -61,6 +72,7 @@ struct frmControlPanel : Form {
     CommandButton cmdClose;
     Picture Picture1;
     Timer tmrButton;
+    WindowStyle style;  // set when the form is loaded
 };
 
 }  // namespace quorrin

@@ -60,6 +60,8 @@ void OperatorActions::perform(const ClickLine& line, std::int64_t number) {
         check->operatorSet(!check->checked());
     } else if (auto* option = dynamic_cast<OptionButton*>(&target)) {
         option->operatorChoose();
+    } else if (auto* label = dynamic_cast<Label*>(&target); label != nullptr && label->onClick) {
+        label->operatorClick();
     } else {
         refuse(target, "cannot be clicked", number);
     }
@@ -95,10 +97,19 @@ void OperatorActions::perform(const SetLine& line, std::int64_t number) {
 }
 
 void OperatorActions::perform(const KeyLine& line, std::int64_t number) {
+    const auto checkKey = [&] {
+        if (line.key < 0 || line.key > 255) throw ScriptError{number, "a key is a number from 0 to 255"};
+    };
+    if (line.onPanel) {
+        checkKey();
+        Picture& panel = station_.controlPanel.Picture1;
+        const int key = static_cast<int>(line.key);
+        return line.down ? panel.operatorKeyDown(key) : panel.operatorKeyUp(key);
+    }
     Control& target = control(line.control, number);
     auto* box = dynamic_cast<TextBox*>(&target);
     if (box == nullptr) refuse(target, "takes no keys", number);
-    if (line.key < 0 || line.key > 255) throw ScriptError{number, "a key is a number from 0 to 255"};
+    checkKey();
     // A key press is the way down; the way up means nothing to a box.
     if (line.down) box->operatorKey(static_cast<int>(line.key));
 }

@@ -53,6 +53,7 @@ struct SetLine {
 struct KeyLine {
     std::int64_t key = 0;
     bool down = true;
+    bool onPanel = false;  // a key of the control panel, otherwise a key press in a box
     std::string control;
 };
 struct FocusLine {

@@ -94,8 +94,8 @@ void parseFrame(LineFields& fields, ScriptLine& line) {
 
 void parseKey(LineFields& fields, ScriptLine& line, bool down) {
     const char* kind = down ? "keyDown" : "keyUp";
-    if (!fields.has("on")) fields.fail("\"" + std::string(kind) + "\" on the control panel is not built yet");
-    line.what = KeyLine{fields.whole(kind), down, fields.text("on")};
+    const bool onPanel = !fields.has("on");
+    line.what = KeyLine{fields.whole(kind), down, onPanel, onPanel ? "" : fields.text("on")};
 }
 
 void parseUnload(LineFields& fields, ScriptLine& line) {

@@ -1,8 +1,16 @@
 #include "session/console_rooms.h"
 
+#include "console/human_timer.h"
+
 namespace quorrin {
 
-ConsoleRooms::ConsoleRooms(const StationPorts& /*ports*/, const ConsoleForms& /*forms*/,
-                           SessionSeams& /*seams*/) {}
+ConsoleRooms::ConsoleRooms(const StationPorts& ports, const ConsoleForms& forms, SessionSeams& seams)
+    : controlPanel_(ports.clock, forms.values, forms.gui, forms.panel, drag_),
+      zoomCamera_(ports.clock, ports.files, forms.values, forms.gui, forms.zoomCamera, drag_),
+      about_(forms.values, forms.gui, forms.about, ports.openWebPage, QUORRIN_VERSION) {
+    seams.closeAbout = [this] { about_.unload(); };
+    seams.closeZoomCamera = [this] { zoomCamera_.unload(); };
+    bindHumanTimer(forms.gui.tmrHuman);
+}
 
 }  // namespace quorrin

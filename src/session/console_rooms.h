@@ -4,10 +4,14 @@
 // Owns the logic objects; the forms, the record and the ports are the station's and must outlive it.
 #pragma once
 
+#include "console/about.h"
+#include "console/control_panel.h"
 #include "console/frm_about.h"
 #include "console/frm_control_panel.h"
 #include "console/frm_gui.h"
 #include "console/frm_zoom_camera.h"
+#include "console/window_drag.h"
+#include "console/zoom_camera.h"
 #include "session/record/public_values.h"
 #include "session/session_seams.h"
 #include "session/station_ports.h"
@@ -25,6 +29,15 @@ struct ConsoleForms {
 class ConsoleRooms {
   public:
     ConsoleRooms(const StationPorts& ports, const ConsoleForms& forms, SessionSeams& seams);
+
+    ControlPanel& controlPanel() { return controlPanel_; }
+    ZoomCamera& zoomCamera() { return zoomCamera_; }
+
+  private:
+    DragState drag_;
+    ControlPanel controlPanel_;
+    ZoomCamera zoomCamera_;
+    About about_;
 };
 
 }  // namespace quorrin

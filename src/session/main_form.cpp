@@ -1,6 +1,5 @@
 #include "session/main_form.h"
 
-#include "console/control_panel_switch.h"
 #include "console/fold_outs.h"
 #include "console/music_choice.h"
 #include "robotlink/head_update.h"
@@ -25,7 +24,6 @@ MainForm::MainForm(const StationPorts& ports, PublicValues& values, frmGUI& gui,
     bindCounters();
     bindFoldOuts(gui_);
     bindMusicChoice(gui_);
-    bindControlPanelSwitch(values_, gui_, panel_);
 }
 
 MainForm::~MainForm() {

@@ -134,6 +134,14 @@ TEST_P(FlightRecorderProof, ARecordedSessionReplaysToTheSameOperations) {
     session.operatorAt(25'017, [](Station& s) { s.gui.cmdChEn.operatorClick(); });
     session.operatorAt(31'400, [](Station& s) { s.gui.cmdChEn.operatorClick(); });
     session.operatorAt(50'000, [](Station& s) { s.gui.cmdShowControlPanel.operatorClick(); });
+    // Keys as a keyboard repeats them, some of them inside what another one lets run.
+    for (std::int64_t ms = 50'500; ms < 52'500; ms += 30)
+        session.operatorAt(ms, [](Station& s) { s.controlPanel.Picture1.operatorKeyDown(38); });
+    for (std::int64_t ms = 53'000; ms < 54'000; ms += 7)
+        session.operatorAt(ms, [](Station& s) { s.controlPanel.Picture1.operatorKeyDown(37); });
+    session.operatorAt(54'010, [](Station& s) { s.controlPanel.Picture1.operatorKeyUp(37); });
+    session.operatorAt(55'000, [](Station& s) { s.controlPanel.operatorActivate(); });
+    session.operatorAt(56'000, [](Station& s) { s.controlPanel.Picture1.operatorKeyDown(36); });
     session.operatorAt(58'000, [](Station& s) { s.controlPanel.operatorClose(); });
     session.operatorAt(70'000, [](Station& s) { s.gui.cmdStart.operatorClick(); });
     session.run(90'000);
@@ -164,6 +172,17 @@ TEST(FlightRecorder, AProgramErrorIsReplayedFromWhatWasFlushed) {
         ScriptRunner().run(session.piece(1) + "{\"t\": 30000, \"answer\": \"no\"}\n");
     EXPECT_EQ(replayed.end, ReplayEnd::programError);
     EXPECT_EQ(replayed.output, session.output.text());
+}
+
+TEST(FlightRecorder, TheKeysOfTheControlPanelAreWrittenAsAScriptHasThem) {
+    RecordedSession session(4);
+    session.begin();
+    session.operatorAt(2'000, [](Station& s) { s.gui.cmdShowControlPanel.operatorClick(); });
+    session.operatorAt(3'000, [](Station& s) { s.controlPanel.Picture1.operatorKeyDown(37); });
+    session.operatorAt(3'100, [](Station& s) { s.controlPanel.Picture1.operatorKeyUp(37); });
+    session.run(5'000);
+    EXPECT_THAT(session.piece(1), HasSubstr(", \"keyDown\": 37}\n"));
+    EXPECT_THAT(session.piece(1), HasSubstr(", \"keyUp\": 37}\n"));
 }
 
 TEST(FlightRecorder, OfAFrameOnlyWhatChangedIsWritten) {

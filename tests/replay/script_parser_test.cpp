@@ -87,6 +87,11 @@ TEST(ScriptParser, ReadsTheOperatorsLines) {
     const ScriptLine key = parse(R"x({"t": 1, "keyDown": 8, "on": "frmLogin.txt_ip(1)"})x");
     EXPECT_EQ(std::get<KeyLine>(key.what).key, 8);
     EXPECT_EQ(std::get<KeyLine>(key.what).control, "frmLogin.txt_ip(1)");
+    EXPECT_FALSE(std::get<KeyLine>(key.what).onPanel);
+    const ScriptLine panelKey = parse(R"({"t": 1, "keyUp": 37})");
+    EXPECT_EQ(std::get<KeyLine>(panelKey.what).key, 37);
+    EXPECT_FALSE(std::get<KeyLine>(panelKey.what).down);
+    EXPECT_TRUE(std::get<KeyLine>(panelKey.what).onPanel);
     EXPECT_EQ(std::get<FocusLine>(parse(R"({"t": 1, "focus": "a"})").what).control, "a");
     EXPECT_EQ(std::get<AnswerLine>(parse(R"({"t": 1, "answer": "yes"})").what).answer, "yes");
     EXPECT_EQ(std::get<UnloadLine>(parse(R"({"t": 1, "unload": true})").what).form, "");
@@ -103,8 +108,6 @@ TEST(ScriptParser, RefusesWhatTheStationDoesNotHaveYetByName) {
          {"choose", "joystick", "connect", "receive", "hangup", "socketError", "waveInDone", "waveOutDone"}) {
         EXPECT_EQ(reason("{\"t\": 1, \"" + kind + "\": 0}"), "\"" + kind + "\" is not built yet");
     }
-    EXPECT_EQ(reason(R"({"t": 1, "keyDown": 38})"), "\"keyDown\" on the control panel is not built yet");
-    EXPECT_EQ(reason(R"({"t": 1, "keyUp": 38})"), "\"keyUp\" on the control panel is not built yet");
 }
 
 TEST(ScriptParser, RefusesWhatIsNoObject) {

@@ -1,8 +1,8 @@
 // A whole station on fakes, in virtual time, with one log of what it asked of the world: link operations
 // ("myRobot.SuspendDrive 0"), programs ("start QuorrinGatewayTI", "close <title>", "no window <title>"),
 // boxes
-// ("box <text>"), the end ("ended"), and the seams that a test has set with noteSeams(). Invented frames come
-// in through the helpers; nothing else happens by itself.
+// ("box <text>"), web pages ("page <address>"), the end ("ended"), and the seams that a test has set with
+// noteSeams(). Invented frames come in through the helpers; nothing else happens by itself.
 #pragma once
 
 #include <string>
@@ -33,7 +33,8 @@ struct StationBench {
                    [this] {
                        log.push_back("ended");
                        ended = true;
-                   }}),
+                   },
+                   [this](const std::string& address) { log.push_back("page " + address); }}),
           values(station.values),
           gui(station.gui) {
         files.createFolder("/app");
