@@ -45,7 +45,10 @@ quorrin_library(quorrin_robot FOLDERS robot LINK quorrin_station quorrin_wire bo
 quorrin_library(quorrin_robot_window FOLDERS robot/window LINK quorrin_robot Qt6::Widgets)
 quorrin_library(quorrin_replay FOLDERS replay LINK quorrin_station quorrin_robot quorrin_virtual quorrin_host nlohmann_json::nlohmann_json)
 quorrin_library(quorrin_client FOLDERS client LINK quorrin_base)
+# The drawing of the button skins; the tool that draws them is built before the windows that carry them.
+quorrin_library(quorrin_skin FOLDERS desktop/skin LINK Qt6::Gui)
+target_compile_definitions(quorrin_skin PUBLIC QT_NO_KEYWORDS)
 # The windows: widgets bound to the forms, nothing decided in them.
 quorrin_library(quorrin_desktop FOLDERS desktop desktop/binding desktop/forms desktop/theme desktop/views desktop/widgets
-    LINK quorrin_station quorrin_base Qt6::Widgets)
+    LINK quorrin_skin quorrin_station quorrin_base Qt6::Widgets)
 target_compile_definitions(quorrin_desktop PUBLIC QT_NO_KEYWORDS)
