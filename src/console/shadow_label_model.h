@@ -27,9 +27,9 @@ constexpr std::int32_t kAlignCentre = 2;
 constexpr int kShadowReach = 3;
 
 // The percentages of the way from the shadow's colour to the background's; outer ring, inner ring, core.
-constexpr int kOuterTone = 90;
-constexpr int kInnerTone = 78;
-constexpr int kCoreTone = 62;
+constexpr int kOuterTone = 84;
+constexpr int kInnerTone = 66;
+constexpr int kCoreTone = 42;
 // How far the text of a disabled label is on its way to the background.
 constexpr int kDisabledTone = 35;
 

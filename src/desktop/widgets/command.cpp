@@ -1,7 +1,9 @@
 #include "desktop/widgets/command.h"
 
 #include <QCursor>
+#include <QFontMetricsF>
 #include <QPainter>
+#include <cmath>
 
 #include "desktop/theme/theme.h"
 #include "desktop/widgets/accessible_controls.h"
@@ -118,8 +120,10 @@ void Command::press() {
 
 FaceSize Command::captionSize() const {
     const QString text = caption();
-    return text.isEmpty() ? FaceSize{}
-                          : FaceSize{fontMetrics().horizontalAdvance(text), fontMetrics().height()};
+    if (text.isEmpty()) return {};
+    // Rounded up: a caption that fits but for a fraction would lose its end.
+    const double width = std::ceil(QFontMetricsF(font()).horizontalAdvance(text));
+    return {static_cast<int>(width), fontMetrics().height()};
 }
 
 FaceSize Command::iconFace() const {

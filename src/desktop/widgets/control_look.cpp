@@ -10,7 +10,8 @@ SystemColours systemColours(const QPalette& palette) {
     const auto role = [&palette](QPalette::ColorRole which) {
         return plainColour(palette.color(QPalette::Active, which));
     };
-    return {{kRoleButtonFace, role(QPalette::Button)},
+    // Faces are of one colour with the windows that they stand in.
+    return {{kRoleButtonFace, role(QPalette::Window)},
             {kRoleButtonShadow, role(QPalette::Shadow)},
             {kRoleButtonText, role(QPalette::ButtonText)}};
 }
