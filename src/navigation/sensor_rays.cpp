@@ -6,20 +6,6 @@
 
 namespace quorrin {
 
-namespace {
-
-// Both limits are measured from the sensor's own offset.
-struct RangeLimits {
-    double lower_m;    // below: no information
-    double marking_m;  // beyond: the ray clears and marks nothing
-};
-
-constexpr RangeLimits kIrLimits{0.1, 0.53};
-constexpr RangeLimits kSonarLimits{0.02, 2.0};
-constexpr std::size_t kMapSonars = 3;
-
-}  // namespace
-
 void castRanges(MapValues& map, const PoseValues& pose, const SensorValues& sensors, Integer robotCellX,
                 Integer robotCellY) {
     const auto cast = [&](double range, double radius, double angle, const RangeLimits& limits) {

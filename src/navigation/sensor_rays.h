@@ -6,11 +6,23 @@
 // Errors: ProgramError for a hit cell that does not fit an Integer.
 #pragma once
 
+#include <cstddef>
+
 #include "session/record/map_values.h"
 #include "session/record/pose_values.h"
 #include "session/record/sensor_values.h"
 
 namespace quorrin {
+
+// Both limits are measured from the sensor's own offset.
+struct RangeLimits {
+    double lower_m;    // below: no information
+    double marking_m;  // beyond: the ray clears and marks nothing
+};
+
+constexpr RangeLimits kIrLimits{0.1, 0.53};
+constexpr RangeLimits kSonarLimits{0.02, 2.0};
+constexpr std::size_t kMapSonars = 3;  // the rear one does not feed the map
 
 // `robotCellX`, `robotCellY`: the cell that the robot is in.
 void castRanges(MapValues& map, const PoseValues& pose, const SensorValues& sensors, Integer robotCellX,
