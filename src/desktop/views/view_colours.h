@@ -1,0 +1,34 @@
+// The colours of the live views, taken from the theme that a palette stands for.
+//
+// What is told by colour is told by shape, line or word too. Letters and lines on the paper keep a contrast
+// of 4.5 to 1.
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+#include <array>
+
+#include "console/chart_plans.h"
+
+namespace quorrin {
+
+struct ViewColours {
+    QColor paper;
+    QColor ink;
+    QColor quiet;    // words of second rank
+    QColor lattice;  // lines behind everything
+    QColor outside;  // beyond the grid
+    QColor infrared;
+    QColor sonar;
+    QColor blocked;
+    QColor free;
+    QColor guidance;  // goal, heading, target
+    QColor robot;
+    std::array<QColor, kMostTraces> traces;
+};
+
+ViewColours viewColours(const QPalette& palette);
+
+QColor mixed(const QColor& from, const QColor& to, double share);
+
+}  // namespace quorrin
