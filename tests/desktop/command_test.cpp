@@ -176,5 +176,59 @@ TEST_F(CommandWidget, LeavingQuicklyGivesOneMouseOutAtTheNextPeriod) {
     EXPECT_FALSE(watch().isActive());
 }
 
+TEST_F(CommandWidget, ADisplayThatTellsOfNoCursorOutsideStillEndsTheHover) {
+    QTest::mouseMove(&button, button.rect().center());
+    cursorAt(button.rect().center());
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&button, &leave);
+    EXPECT_EQ(told, "");
+    watchFires();
+    EXPECT_EQ(told, "out ");
+}
+
+TEST_F(CommandWidget, AParentThatIsDisabledDisablesIt) {
+    window.setEnabled(false);
+    EXPECT_EQ(button.model().cell(), ButtonState::disabled);
+    window.setEnabled(true);
+    EXPECT_EQ(button.model().cell(), ButtonState::normal);
+}
+
+TEST_F(CommandWidget, AShortcutOfTheWindowGoesBeforeTheButton) {
+    int found = 0;
+    QShortcut shortcut(QKeySequence(Qt::Key_F), &window, [&found] { ++found; });
+    QTest::keyClick(&button, Qt::Key_F);
+    EXPECT_EQ(found, 1);
+    EXPECT_EQ(told, "");
+}
+
+TEST_F(CommandWidget, EachKeyIsTheSameKeyWithAndWithoutShift) {
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Exclam, Qt::ShiftModifier, 10, 0, 0);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_1, {}, 10, 0, 0);
+    QCoreApplication::sendEvent(&button, &press);
+    QCoreApplication::sendEvent(&button, &release);
+    EXPECT_EQ(told, "press release click ");
+}
+
+TEST_F(CommandWidget, KeyEventsTellTheKeysNumber) {
+    int number = 0;
+    button.model().onKeyPress = [&number](const KeyStroke& stroke) { number = stroke.key; };
+    QTest::keyClick(&button, Qt::Key_Enter);
+    EXPECT_EQ(number, 13);
+    QTest::keyClick(&button, Qt::Key_Backspace);
+    EXPECT_EQ(number, 8);
+    QTest::keyClick(&button, Qt::Key_A);
+    EXPECT_EQ(number, 'A');
+}
+
+TEST_F(CommandWidget, MouseEventsTellButtonShiftAndPlace) {
+    MouseStroke seen;
+    button.model().onMouseDown = [&seen](const MouseStroke& stroke) { seen = stroke; };
+    QTest::mousePress(&button, Qt::LeftButton, Qt::ShiftModifier | Qt::ControlModifier, QPoint(4, 5));
+    EXPECT_EQ(seen.button, MouseButton::left);
+    EXPECT_EQ(seen.shift, kShiftKey | kControlKey);
+    EXPECT_EQ(seen.x, 4);
+    EXPECT_EQ(seen.y, 5);
+}
+
 }  // namespace
 }  // namespace quorrin

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <algorithm>
+#include <cstdlib>
 
 #include "desktop/widgets/control_look.h"
 
@@ -45,6 +47,212 @@ TEST(ShadowLabelWidget, AnEmptyCaptionWithAutosizeTakesTheSmallestSize) {
     EXPECT_GT(label.width(), 20);
     label.setCaption("");
     EXPECT_EQ(label.size(), QSize(kShadowReach, kShadowReach));
+}
+
+// Where something is drawn.
+QRect drawnArea(const QImage& picture) {
+    QRect area;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qAlpha(picture.pixel(x, y)) != 0) area |= QRect(x, y, 1, 1);
+        }
+    }
+    return area;
+}
+
+const SystemColours kColours = {{kRoleButtonText, rgb(200, 0, 0)},
+                                {kRoleButtonFace, rgb(240, 240, 250)},
+                                {kRoleButtonShadow, rgb(90, 90, 100)}};
+
+TEST(ShadowLabelWidget, SystemColourReferencesAndPlainColoursGiveTheSamePicture) {
+    ShadowLabel referred("Robot X");
+    referred.setSystemColours(kColours);
+    referred.setBackColor(kButtonText);
+    ShadowLabel plain("Robot X");
+    plain.setForeColor(rgb(200, 0, 0));
+    plain.setBackColor(rgb(200, 0, 0));
+    plain.setShadowColor(rgb(90, 90, 100));
+    for (ShadowLabel* label : {&referred, &plain}) label->resize(120, 24);
+    EXPECT_EQ(pictureOf(referred), pictureOf(plain));
+    plain.setForeColor(rgb(0, 0, 0));
+    EXPECT_NE(pictureOf(referred), pictureOf(plain));
+}
+
+TEST(ShadowLabelWidget, OnAGroundOfTheFacesColourReferenceAndPlainBackgroundAreTheSame) {
+    QWidget ground;
+    ground.setPalette(QPalette(QColor(240, 240, 250)));
+    ground.resize(140, 40);
+    QImage pictures[2];
+    for (const bool plain : {false, true}) {
+        ShadowLabel label("Robot X", &ground);
+        label.setSystemColours(kColours);
+        if (plain) label.setBackColor(rgb(240, 240, 250));
+        label.setGeometry(5, 5, 120, 24);
+        pictures[plain ? 1 : 0] = ground.grab().toImage();
+    }
+    int most = 0;
+    for (int y = 0; y < 40; ++y) {
+        for (int x = 0; x < 140; ++x) {
+            const QColor one = pictures[0].pixelColor(x, y);
+            const QColor other = pictures[1].pixelColor(x, y);
+            most = std::max({most, std::abs(one.red() - other.red()), std::abs(one.green() - other.green()),
+                             std::abs(one.blue() - other.blue())});
+        }
+    }
+    // Sixteen layers of smooth edges are rounded before they are laid on the ground, or after.
+    EXPECT_LE(most, 3);
+}
+
+TEST(ShadowLabelWidget, SystemColoursFollowTheWindowsPalette) {
+    ShadowLabel label("Robot X");
+    label.resize(120, 24);
+    const QImage before = pictureOf(label);
+    QPalette other = label.palette();
+    other.setColor(QPalette::ButtonText, Qt::magenta);
+    label.setPalette(other);
+    EXPECT_NE(pictureOf(label), before);
+}
+
+TEST(ShadowLabelWidget, WithoutWrappingTheTextStaysOnOneLineAndIsCutAtTheEdge) {
+    ShadowLabel label("Heading of the robot in degrees");
+    label.setWordWrap(false);
+    const int oneLine = label.sizeHint().height();
+    label.resize(60, 4 * oneLine);
+    const QRect area = drawnArea(pictureOf(label));
+    EXPECT_LE(area.bottom(), oneLine);
+    EXPECT_EQ(area.right(), 59);
+}
+
+TEST(ShadowLabelWidget, WrappedTheSameTextTakesMoreLinesWithinTheEdge) {
+    ShadowLabel label("Heading of the robot in degrees");
+    const int oneLine = label.sizeHint().height();
+    label.resize(80, 6 * oneLine);
+    EXPECT_GT(drawnArea(pictureOf(label)).bottom(), oneLine);
+    EXPECT_GT(label.heightForWidth(80), oneLine);
+}
+
+TEST(ShadowLabelWidget, AlignmentPutsTheTextLeftRightOrInTheMiddle) {
+    ShadowLabel label("Robot X");
+    label.resize(200, 24);
+    const int left = drawnArea(pictureOf(label)).left();
+    label.setAlignment(kAlignRight);
+    const QRect right = drawnArea(pictureOf(label));
+    label.setAlignment(kAlignCentre);
+    const QRect centre = drawnArea(pictureOf(label));
+    EXPECT_LE(left, 3);
+    EXPECT_GE(right.right(), 195);
+    EXPECT_NEAR(centre.center().x(), 100, 4);
+}
+
+TEST(ShadowLabelWidget, TheShadowLiesRightAndBelowOfTheText) {
+    ShadowLabel label("HHHH");
+    label.resize(100, 24);
+    label.setForeColor(rgb(255, 0, 0));
+    label.setShadowColor(rgb(0, 0, 255));
+    label.setFontChoice({"DejaVu Sans", 30, true, false});
+    label.resize(label.sizeHint());
+    const QImage picture = pictureOf(label);
+    QRect text;
+    QRect shadow;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            const QRgb pixel = picture.pixel(x, y);
+            if (pixel == qRgb(255, 0, 0)) text |= QRect(x, y, 1, 1);
+            if (qAlpha(pixel) == 255 && qBlue(pixel) > qRed(pixel)) shadow |= QRect(x, y, 1, 1);
+        }
+    }
+    ASSERT_FALSE(text.isEmpty());
+    EXPECT_EQ(shadow.bottom(), text.bottom() + kShadowReach);
+    EXPECT_NEAR(shadow.right(), text.right() + kShadowReach, 1);
+}
+
+TEST(ShadowLabelWidget, AutosizeFitsTheTextWithoutCuttingIt) {
+    ShadowLabel label("Robot X");
+    label.setWordWrap(false);
+    label.setAutosize(true);
+    EXPECT_EQ(label.size(), label.sizeHint());
+    const QImage fitted = pictureOf(label);
+    label.setAutosize(false);
+    label.resize(label.width() + 50, label.height() + 50);
+    EXPECT_EQ(drawnArea(pictureOf(label)), drawnArea(fitted));
+}
+
+TEST(ShadowLabelWidget, AutosizeFollowsCaptionAndFont) {
+    ShadowLabel label("Robot X");
+    label.setWordWrap(false);
+    label.setAutosize(true);
+    const QSize before = label.size();
+    label.setCaption("Robot X and Y");
+    EXPECT_GT(label.width(), before.width());
+    QFont large = label.font();
+    large.setPointSizeF(large.pointSizeF() * 2);
+    label.setFont(large);
+    EXPECT_GT(label.height(), before.height());
+}
+
+TEST(ShadowLabelWidget, EveryPropertyIsStoredAndDrawn) {
+    ShadowLabel label("Robot X");
+    label.resize(120, 60);
+    QImage before = pictureOf(label);
+    const auto differs = [&](const char* what) {
+        const QImage after = pictureOf(label);
+        EXPECT_NE(after, before) << what;
+        before = after;
+    };
+    label.setCaption("Robot Y");
+    differs("Caption");
+    label.setAlignment(kAlignRight);
+    differs("Alignment");
+    label.setForeColor(rgb(0, 0, 250));
+    differs("ForeColor");
+    label.setBackColor(rgb(250, 250, 0));
+    differs("BackColor");
+    label.setShadowColor(rgb(250, 0, 0));
+    differs("ShadowColor");
+    label.setFontChoice({"DejaVu Sans", 16, true, false});
+    differs("Font");
+    label.setEnabled(false);
+    differs("Enabled");
+    label.setCaption("Robot Y and the heading of the robot");
+    differs("Caption");
+    label.setWordWrap(false);
+    differs("WordWrap");
+    label.setAutosize(true);
+    differs("Autosize");
+    EXPECT_EQ(label.properties().font.points, 16);
+    EXPECT_FALSE(label.properties().enabled);
+}
+
+TEST(ShadowLabelWidget, OnAFinerScreenItIsDrawnWithTheScreensPixels) {
+    ShadowLabel label("Robot X");
+    label.resize(100, 24);
+    QImage picture(200, 48, QImage::Format_ARGB32_Premultiplied);
+    picture.setDevicePixelRatio(2);
+    picture.fill(Qt::transparent);
+    label.render(&picture, {}, {}, QWidget::RenderFlags());
+    // Enlarged, every pixel would have three like it.
+    bool fine = false;
+    for (int y = 0; y < 48; y += 2) {
+        for (int x = 0; x < 200; x += 2) {
+            const QRgb pixel = picture.pixel(x, y);
+            fine = fine || pixel != picture.pixel(x + 1, y) || pixel != picture.pixel(x, y + 1);
+        }
+    }
+    EXPECT_TRUE(fine);
+}
+
+TEST(ShadowLabelWidget, AScreenReaderFindsATextWithTheCaptionAsItsName) {
+    ShadowLabel label("Robot X");
+    QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(&label);
+    ASSERT_NE(reader, nullptr);
+    EXPECT_EQ(reader->role(), QAccessible::StaticText);
+    EXPECT_EQ(reader->text(QAccessible::Name), "Robot X");
+    label.setAccessibleName("Where the robot is");
+    EXPECT_EQ(reader->text(QAccessible::Name), "Where the robot is");
+}
+
+TEST(ShadowLabelWidget, ItTakesNoFocus) {
+    EXPECT_EQ(ShadowLabel("Robot X").focusPolicy(), Qt::NoFocus);
 }
 
 }  // namespace

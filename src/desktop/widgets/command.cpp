@@ -148,12 +148,12 @@ bool Command::cursorInside() const {
 }
 
 void Command::paintEvent(QPaintEvent*) {
-    const Drawn wanted{model_.cell(), look(), size(), devicePixelRatioF()};
+    QPainter painter(this);
+    const Drawn wanted{model_.cell(), look(), size(), painter.deviceTransform().m11()};
     if (skin_.isNull() || drawn_ != wanted) {
         skin_ = skinnedButton(wanted.cell, wanted.look, wanted.size, wanted.ratio);
         drawn_ = wanted;
     }
-    QPainter painter(this);
     painter.drawImage(0, 0, skin_);
     drawFace(painter);
 }

@@ -81,7 +81,7 @@ void ShadowLabel::setSystemColours(SystemColours colours) {
 }
 
 void ShadowLabel::redraw() {
-    drawn_ = QPixmap();
+    drawn_ = QImage();
     if (properties_.autosize) {
         const FaceSize wanted = drawing().control;
         resize(wanted.width, wanted.height);
@@ -128,10 +128,9 @@ int ShadowLabel::heightForWidth(int width) const {
     return labelSize(measured(std::max(1, width - kShadowReach))).height;
 }
 
-QPixmap ShadowLabel::drawnText() const {
-    const double ratio = devicePixelRatioF();
-    QPixmap picture(static_cast<int>(std::ceil(width() * ratio)),
-                    static_cast<int>(std::ceil(height() * ratio)));
+QImage ShadowLabel::drawnText(double ratio) const {
+    QImage picture(static_cast<int>(std::ceil(width() * ratio)),
+                   static_cast<int>(std::ceil(height() * ratio)), QImage::Format_ARGB32_Premultiplied);
     picture.setDevicePixelRatio(ratio);
     const LabelDrawing list = drawing();
     picture.fill(list.filled ? windowColour(list.ground) : QColor(Qt::transparent));
@@ -150,10 +149,11 @@ QPixmap ShadowLabel::drawnText() const {
 
 void ShadowLabel::paintEvent(QPaintEvent*) {
     if (width() <= 0 || height() <= 0) return;
-    if (drawn_.deviceIndependentSize().toSize() != size() || drawn_.devicePixelRatio() != devicePixelRatioF())
-        drawn_ = drawnText();
     QPainter painter(this);
-    painter.drawPixmap(0, 0, drawn_);
+    const double ratio = painter.deviceTransform().m11();
+    if (drawn_.deviceIndependentSize().toSize() != size() || drawn_.devicePixelRatio() != ratio)
+        drawn_ = drawnText(ratio);
+    painter.drawImage(0, 0, drawn_);
 }
 
 void ShadowLabel::changeEvent(QEvent* event) {

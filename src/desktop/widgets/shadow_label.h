@@ -5,7 +5,7 @@
 // palette. A background that was left at the system's button face shows what the label stands on.
 #pragma once
 
-#include <QPixmap>
+#include <QImage>
 #include <QWidget>
 #include <optional>
 
@@ -49,12 +49,12 @@ class ShadowLabel : public QWidget {
     FaceSize measured(int width) const;
     int textFlags() const;
     LabelDrawing drawing() const;
-    QPixmap drawnText() const;
+    QImage drawnText(double devicePixelRatio) const;
 
     ShadowLabelProperties properties_;
     std::optional<SystemColours> colours_;
     // The last drawing; sixteen texts are costly, and windows paint often.
-    QPixmap drawn_;
+    QImage drawn_;
 };
 
 }  // namespace quorrin
