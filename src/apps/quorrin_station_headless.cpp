@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 
+#include "apps/end_by_operator.h"
 #include "apps/real_station.h"
 #include "base/program_error.h"
 #include "console/status_line.h"
@@ -45,15 +46,6 @@ void logIn(Station& station) {
         throw CannotStart{"the stored port is \"" + station.values.robotPort +
                           "\", which the login form does not take; nothing was written"};
     station.login.cmdOK.operatorClick();
-}
-
-// Ctrl-C: as the key that ends the station; before the main form is there, as the login's Cancel.
-void endByOperator(Station& station) {
-    if (station.gui.shown()) {
-        station.gui.cmdExit.operatorClick();
-    } else {
-        station.login.cmdCancel.operatorClick();
-    }
 }
 
 int runStation(RealStation& real, Terminal& terminal) {

@@ -22,6 +22,8 @@ namespace quorrin {
 // finishes it (Enter, or leaving the box), and takes a text that is not allowed, or that Escape ends, back.
 void bind(QLineEdit& widget, TextBox& control, const OperatorActs& acts);
 void bind(QLabel& widget, Label& control, const OperatorActs& acts);
+// A label that is clicked on, as a link.
+void bindLink(QAbstractButton& widget, Label& control, const OperatorActs& acts);
 void bind(QAbstractButton& widget, CommandButton& control, const OperatorActs& acts);
 void bind(QCheckBox& widget, CheckBox& control, const OperatorActs& acts);
 void bind(QRadioButton& widget, OptionButton& control, const OperatorActs& acts);

@@ -2,10 +2,12 @@
 
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSlider>
 #include <utility>
 
 #include "base/program_error.h"
+#include "console/control_words.h"
 
 namespace quorrin {
 
@@ -91,10 +93,31 @@ QLineEdit* ControlFactory::readOut(const std::string& controlName) {
 }
 
 void ControlFactory::dress(QWidget& widget, Control& dressed) {
+    const ControlWords& words = controlWords(form_.name(), dressed.name());
     widget.setObjectName(QString::fromStdString(dressed.name()));
+    widget.setAccessibleName(QString::fromStdString(words.name));
+    widget.setToolTip(QString::fromStdString(words.tip));
+    if (!words.shortcut.empty()) addShortcut(widget, dressed, words.shortcut);
     if (widget.focusPolicy() == Qt::NoFocus) return;
     focus_->add(widget, dressed);
     new Keeper(widget, focus_);
+}
+
+// A key's shortcut clicks it, any other control's brings the focus to it.
+void ControlFactory::addShortcut(QWidget& widget, Control& dressed, const std::string& keys) {
+    auto* const shortcut = new QShortcut(QKeySequence(QString::fromStdString(keys)), &widget);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, &widget, [acts = acts_, &widget, &dressed] {
+        if (auto* button = dynamic_cast<CommandButton*>(&dressed)) {
+            acts.act([button] { button->operatorClick(); });
+        } else if (auto* label = dynamic_cast<Label*>(&dressed)) {
+            acts.act([label] { label->operatorClick(); });
+        } else if (auto* check = dynamic_cast<CheckBox*>(&dressed)) {
+            acts.act([check] { check->operatorSet(!check->checked()); });
+        } else {
+            widget.setFocus(Qt::ShortcutFocusReason);
+        }
+    });
 }
 
 }  // namespace quorrin

@@ -40,6 +40,7 @@ class ControlFactory {
   private:
     Control& control(const std::string& name) const;
     QWidget* make(Control& control);
+    void addShortcut(QWidget& widget, Control& dressed, const std::string& keys);
 
     OperatorActs acts_;
     Form& form_;

@@ -20,6 +20,7 @@ FormLink::FormLink(QWidget& window, Form& form, const OperatorActs& acts)
 }
 
 void FormLink::follow() {
+    if (form_.shown()) window_.setWindowModality(form_.modal() ? Qt::ApplicationModal : Qt::NonModal);
     window_.setVisible(form_.shown());
     if (form_.shown()) tellArea();
 }

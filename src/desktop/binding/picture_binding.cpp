@@ -16,7 +16,13 @@ class PictureBinding : public Binding {
     // Being told the same file again means that it has changed.
     void showValue() override {
         widget_.setNumber(control_.number());
-        if (!control_.file().empty()) widget_.setFile(QString::fromStdString(control_.file()));
+        if (control_.file().empty()) {
+            widget_.clear();
+        } else if (control_.content()) {
+            widget_.setContent(control_.content());
+        } else {
+            widget_.setFile(QString::fromStdString(control_.file()));
+        }
         if (refreshes_ != control_.refreshes()) {
             refreshes_ = control_.refreshes();
             widget_.update();

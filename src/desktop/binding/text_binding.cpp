@@ -57,10 +57,10 @@ class TextBinding : public Binding {
         }
     }
 
-    // White with black letters is what the system's window looks like; every other pair is the form's own.
+    // White is what the system's window looks like: it and the writing on it are the theme's. (A field that
+    // is being typed into may be white with white letters.)
     void showColours() {
-        const bool plain =
-            control_.backColour() == rgb(255, 255, 255) && control_.foreColour() == rgb(0, 0, 0);
+        const bool plain = control_.backColour() == rgb(255, 255, 255);
         const QString sheet = plain ? QString()
                                     : QStringLiteral("background-color: %1; color: %2;")
                                           .arg(windowColour(control_.backColour()).name(),

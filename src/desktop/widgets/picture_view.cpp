@@ -20,6 +20,26 @@ void PictureView::setNumber(int number) {
 
 void PictureView::setFile(const QString& file) {
     file_ = file;
+    content_.reset();
+    readSoon();
+}
+
+void PictureView::setContent(std::shared_ptr<const std::string> content) {
+    if (content_ == content) return;
+    content_ = std::move(content);
+    readSoon();
+}
+
+void PictureView::clear() {
+    file_.clear();
+    content_.reset();
+    unread_ = false;
+    if (image_.isNull()) return;
+    image_ = {};
+    update();
+}
+
+void PictureView::readSoon() {
     unread_ = true;
     if (isVisible()) read();
 }
@@ -31,7 +51,9 @@ void PictureView::showEvent(QShowEvent* event) {
 
 void PictureView::read() {
     unread_ = false;
-    QImage image(file_);
+    QImage image = content_ ? QImage::fromData(reinterpret_cast<const uchar*>(content_->data()),
+                                               static_cast<int>(content_->size()))
+                            : QImage(file_);
     if (image.isNull() || image == image_) return;
     image_ = std::move(image);
     updateGeometry();

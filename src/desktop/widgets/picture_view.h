@@ -1,8 +1,8 @@
-// Shows a picture: one of the form's image list by number, or a file.
+// Shows a picture: one of the form's image list by number, a file, or the content of one.
 //
-// A file that cannot be read at the moment leaves the picture that was there. A file is read when it is told
-// anew and the view is to be seen. Numbers are drawn by the image list that the view was given; without one,
-// and for number 0, nothing is drawn.
+// What cannot be read leaves the picture that was there. It is read when it is told anew and the view
+// is to be seen. Numbers are drawn by the image list that the view was given; without one, and for number 0,
+// nothing is drawn.
 #pragma once
 
 #include <QImage>
@@ -10,6 +10,8 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <memory>
+#include <string>
 
 namespace quorrin {
 
@@ -25,8 +27,10 @@ class PictureView : public QWidget {
     void setFit(Fit fit);
     void setNumber(int number);
     int number() const { return number_; }
-    // Reads the file, now or when the view is shown.
     void setFile(const QString& file);
+    void setContent(std::shared_ptr<const std::string> content);
+    // No picture but the numbered one.
+    void clear();
     const QImage& image() const { return image_; }
 
     QSize sizeHint() const override;
@@ -36,12 +40,14 @@ class PictureView : public QWidget {
     void showEvent(QShowEvent*) override;
 
   private:
+    void readSoon();
     void read();
 
     ImageList images_;
     Fit fit_ = Fit::keepShape;
     int number_ = 0;
     QString file_;
+    std::shared_ptr<const std::string> content_;
     bool unread_ = false;
     QImage image_;
 };

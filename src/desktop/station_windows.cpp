@@ -1,0 +1,67 @@
+#include "desktop/station_windows.h"
+
+#include <QVBoxLayout>
+
+#include "console/crash_report.h"
+#include "console/menu_words.h"
+#include "desktop/binding/form_link.h"
+#include "desktop/forms/about_window.h"
+#include "desktop/forms/closing_sign.h"
+#include "desktop/forms/login_window.h"
+#include "desktop/forms/notice_window.h"
+#include "desktop/forms/zoom_window.h"
+#include "desktop/paint_now.h"
+
+namespace quorrin {
+
+namespace {
+
+// Mode, keys and read-outs of the main form in one column.
+class MainWindow : public QWidget {
+  public:
+    MainWindow(frmGUI& form, const OperatorActs& acts) : controls_(acts, form) {
+        setWindowTitle(QString::fromStdString(quorrin::windowTitle(form.name())));
+        auto* const column = new QVBoxLayout(this);
+        column->addWidget(controls_.readOut("txtRobotStatus"));
+        for (const char* name : {"cmdChEn", "cmdShowControlPanel", "cmdStop", "cmdExit"})
+            column->addWidget(controls_(name));
+        new FormLink(*this, form, acts);
+    }
+
+  private:
+    ControlFactory controls_;
+};
+
+}  // namespace
+
+struct StationWindows::Windows {
+    Windows(Station& station, const OperatorActs& acts)
+        : login(station.login, acts),
+          main(station.gui, acts),
+          zoom(station.zoomCamera, acts),
+          about(station.about, acts, {}),
+          closing(main) {}
+
+    LoginWindow login;
+    MainWindow main;
+    ZoomWindow zoom;
+    AboutWindow about;
+    ClosingSign closing;
+    NoticeWindow notices;
+};
+
+StationWindows::StationWindows(Station& station, const OperatorActs& acts)
+    : station_(station), windows_(std::make_unique<Windows>(station, acts)) {}
+
+StationWindows::~StationWindows() = default;
+
+void StationWindows::beforeBlock() {
+    if (station_.gui.shown() && !station_.gui.formRunning) windows_->closing.show();
+    paintDirtyWindows();
+}
+
+void StationWindows::say(const std::string& complaint) {
+    windows_->notices.say(complaint);
+}
+
+}  // namespace quorrin
