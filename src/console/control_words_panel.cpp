@@ -6,7 +6,7 @@ namespace quorrin {
 
 WordsRows controlPanelWords() {
     return {
-        {"scrGas", "Gas:", "Gas", "Speed, from 10000 for none to 0 for full gas."},
+        {"scrGas", "", "Gas", "Speed, from 10000 for none to 0 for full gas."},
         {"scrBrake", "Brake:", "Brake", "Brake, from 10000 for released to 0 for full."},
         {"hscSteering", "", "Steering", "Steering, 5000 is straight ahead."},
         {"scrHeadUD", "", "Look up and down", "Height of the robot's look, 2000 is straight ahead."},
@@ -16,13 +16,13 @@ WordsRows controlPanelWords() {
         {"sldLR", "", "Side of the look", "Where the robot is told to look, left to right."},
         {"sldUD", "", "Height of the look", "Where the robot is told to look, up and down."},
         {"cmdGasUp", "Gas Up:", "Gas up", "Releases the brake and drives one step faster. Key: Up arrow."},
-        {"cmdGasDown", "Gas Down:", "Gas down", "Drives one step slower. Key: Down arrow."},
+        {"cmdGasDown", "", "Gas down", "Drives one step slower. Key: Down arrow."},
         {"cmdBrake", "", "Stop", "No gas, full brake, straight ahead. Key: Space."},
         {"cmdTurnLeft", "Left:", "Turn left", "Steers to the left while it is held down. Key: Left arrow."},
         {"cmdTurnRight", "Right:", "Turn right",
          "Steers to the right while it is held down. Key: Right arrow."},
         {"cmdHeadUp", "Up:", "Look up", "Turns the look one step up. Key: Home."},
-        {"cmdHeadDown", "Down:", "Look down", "Turns the look one step down. Key: End."},
+        {"cmdHeadDown", "", "Look down", "Turns the look one step down. Key: End."},
         {"cmdHeadLeft", "Left:", "Look left", "Turns the look one step to the left. Key: Delete."},
         {"cmdHeadRight", "Right:", "Look right", "Turns the look one step to the right. Key: Page Down."},
         {"cmdMouthUp", "Close:", "Close the mouth", "Takes one step from the mouth's scale."},

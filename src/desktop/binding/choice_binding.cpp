@@ -1,3 +1,5 @@
+#include <QSlider>
+
 #include "desktop/binding/bind.h"
 #include "desktop/binding/binding.h"
 
@@ -12,6 +14,12 @@ class SliderBinding : public Binding {
         connect(&widget, &QAbstractSlider::valueChanged, this, [this](int value) {
             if (!writing()) act([&moved = control_, value] { moved.operatorMove(value); });
         });
+        // A standing slider has its maximum at the top by itself, a scroll bar its minimum. Keys and wheel
+        // go where the handle goes.
+        const bool standing = widget.orientation() == Qt::Vertical;
+        const bool slider = qobject_cast<QSlider*>(&widget) != nullptr;
+        widget.setInvertedAppearance(control.maximumFirst != (standing && slider));
+        widget.setInvertedControls(control.maximumFirst != standing);
         start();
     }
 

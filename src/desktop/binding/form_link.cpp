@@ -1,6 +1,7 @@
 #include "desktop/binding/form_link.h"
 
 #include <QEvent>
+#include <utility>
 
 #include "desktop/binding/twips.h"
 
@@ -39,6 +40,12 @@ void FormLink::tellArea() {
     form_.setArea(twips(window_.frameGeometry()));
 }
 
+void FormLink::pressed() {
+    if (std::exchange(announced_, !window_.isActiveWindow()) || !announced_) return;
+    acts_.act([&form = form_] { form.operatorActivate(); });
+    window_.activateWindow();
+}
+
 bool FormLink::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
         case QEvent::Close:
@@ -46,7 +53,7 @@ bool FormLink::eventFilter(QObject* watched, QEvent* event) {
             event->ignore();
             return true;
         case QEvent::WindowActivate:
-            acts_.act([&form = form_] { form.operatorActivate(); });
+            if (!std::exchange(announced_, false)) acts_.act([&form = form_] { form.operatorActivate(); });
             break;
         case QEvent::Move:
         case QEvent::Resize:

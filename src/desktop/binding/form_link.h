@@ -18,6 +18,10 @@ class FormLink : public QObject {
   public:
     FormLink(QWidget& window, Form& form, const OperatorActs& acts);
 
+    // The operator presses a mouse button on the window. One that is not the active one becomes it by that,
+    // before the press has its effect, though the window system may tell so only later.
+    void pressed();
+
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -30,6 +34,7 @@ class FormLink : public QObject {
     QWidget& window_;
     Form& form_;
     OperatorActs acts_;
+    bool announced_ = false;  // the form knows already that the window is about to become the active one
     Listening shown_;
     Listening activated_;
     Listening moved_;
