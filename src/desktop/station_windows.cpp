@@ -7,10 +7,12 @@
 #include "desktop/binding/form_link.h"
 #include "desktop/forms/about_window.h"
 #include "desktop/forms/closing_sign.h"
+#include "desktop/forms/control_panel_window.h"
 #include "desktop/forms/login_window.h"
 #include "desktop/forms/notice_window.h"
 #include "desktop/forms/zoom_window.h"
 #include "desktop/paint_now.h"
+#include "session/console_rooms.h"
 
 namespace quorrin {
 
@@ -38,12 +40,14 @@ struct StationWindows::Windows {
     Windows(Station& station, const OperatorActs& acts)
         : login(station.login, acts),
           main(station.gui, acts),
-          zoom(station.zoomCamera, acts),
+          panel(station.controlPanel, station.console().controlPanel().drag(), acts, &main),
+          zoom(station.zoomCamera, station.console().zoomCamera().drag(), acts),
           about(station.about, acts, {}),
           closing(main) {}
 
     LoginWindow login;
     MainWindow main;
+    ControlPanelWindow panel;
     ZoomWindow zoom;
     AboutWindow about;
     ClosingSign closing;

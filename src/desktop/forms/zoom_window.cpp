@@ -6,7 +6,7 @@
 
 namespace quorrin {
 
-ZoomWindow::ZoomWindow(frmZoomCamera& form, const OperatorActs& acts)
+ZoomWindow::ZoomWindow(frmZoomCamera& form, WindowDrag& drag, const OperatorActs& acts)
     : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), controls_(acts, form) {
     setWindowTitle(QString::fromStdString(quorrin::windowTitle(form.name())));
     picture_ = controls_("Image1");
@@ -18,6 +18,8 @@ ZoomWindow::ZoomWindow(frmZoomCamera& form, const OperatorActs& acts)
     grip_ = new QSizeGrip(this);
     constexpr QSize kFourTimesThePicture(640, 480);
     resize(kFourTimesThePicture);
+    // The picture lets the mouse through to the window.
+    bodyDrag_ = new BodyDrag(*this, drag, acts);
     new FormLink(*this, form, acts);
 }
 

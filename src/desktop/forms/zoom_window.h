@@ -6,6 +6,8 @@
 #include <QWidget>
 
 #include "console/frm_zoom_camera.h"
+#include "console/window_drag.h"
+#include "desktop/binding/body_drag.h"
 #include "desktop/binding/control_factory.h"
 #include "desktop/operator_acts.h"
 
@@ -13,7 +15,10 @@ namespace quorrin {
 
 class ZoomWindow : public QWidget {
   public:
-    ZoomWindow(frmZoomCamera& form, const OperatorActs& acts);
+    // Form and drag must outlive this.
+    ZoomWindow(frmZoomCamera& form, WindowDrag& drag, const OperatorActs& acts);
+
+    BodyDrag& bodyDrag() { return *bodyDrag_; }
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -23,6 +28,7 @@ class ZoomWindow : public QWidget {
     QWidget* picture_;
     QWidget* close_;
     QSizeGrip* grip_;
+    BodyDrag* bodyDrag_;
 };
 
 }  // namespace quorrin
