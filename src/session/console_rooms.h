@@ -10,6 +10,7 @@
 #include "console/frm_control_panel.h"
 #include "console/frm_gui.h"
 #include "console/frm_zoom_camera.h"
+#include "console/joystick.h"
 #include "console/window_drag.h"
 #include "console/zoom_camera.h"
 #include "session/record/public_values.h"
@@ -38,6 +39,7 @@ class ConsoleRooms {
     ControlPanel controlPanel_;
     ZoomCamera zoomCamera_;
     About about_;
+    Joystick joystick_;
 };
 
 }  // namespace quorrin

@@ -7,6 +7,7 @@
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/folders.h"
+#include "platform/joysticks.h"
 #include "platform/message_box.h"
 #include "platform/programs.h"
 #include "robotlink/quorrin_sdk.h"
@@ -25,6 +26,8 @@ struct StationPorts {
     std::function<void()> endProgram;
     // Opens a page in the operator's browser; an empty place opens nothing.
     std::function<void(const std::string& address)> openWebPage = {};
+    // Without it no joystick is ever found.
+    Joysticks* joysticks = nullptr;
 };
 
 }  // namespace quorrin

@@ -11,6 +11,7 @@
 #include "base/program_error.h"
 #include "platform/virtual/memory_files.h"
 #include "platform/virtual/scripted_boxes.h"
+#include "platform/virtual/scripted_joysticks.h"
 #include "platform/virtual/scripted_programs.h"
 #include "platform/virtual/virtual_clock.h"
 #include "session/station.h"
@@ -28,13 +29,19 @@ struct StationBench {
         : clock(sharedClock),
           myRobot(log, "myRobot."),
           robotTI(log, "robotTI."),
-          station({clock, files, programs, boxes, myRobot, robotTI,
+          station({clock,
+                   files,
+                   programs,
+                   boxes,
+                   myRobot,
+                   robotTI,
                    Folders{"/app", "/windows", "/voice", "/programs"},
                    [this] {
                        log.push_back("ended");
                        ended = true;
                    },
-                   [this](const std::string& address) { log.push_back("page " + address); }}),
+                   [this](const std::string& address) { log.push_back("page " + address); },
+                   &sticks}),
           values(station.values),
           gui(station.gui) {
         files.createFolder("/app");
@@ -104,6 +111,7 @@ struct StationBench {
     MemoryFiles files;
     ScriptedPrograms programs;
     ScriptedBoxes boxes;
+    ScriptedJoysticks sticks;  // none is attached
     FakeLink myRobot;
     FakeLink robotTI;
     Station station;

@@ -4,11 +4,12 @@
 #include <string>
 
 #include "base/checked_int.h"
+#include "session/record/joystick_values.h"
 #include "session/record/servo_values.h"
 
 namespace quorrin {
 
-struct MainFormValues : NeutralServoValues {
+struct MainFormValues : NeutralServoValues, JoystickFormValues {
     // Remains of an unfinished patrol: written by runRobot and by the link recovery, read by nothing.
     Integer alarmCnt;
     Integer alarmEnd;

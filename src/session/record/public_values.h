@@ -6,6 +6,7 @@
 #pragma once
 
 #include "session/record/drive_values.h"
+#include "session/record/joystick_values.h"
 #include "session/record/landmark_values.h"
 #include "session/record/level_values.h"
 #include "session/record/link_values.h"
@@ -33,6 +34,7 @@ struct PublicValues : ModeValues,
                       PathValues,
                       RemoteValues,
                       CameraValues,
-                      VoiceValues {};
+                      VoiceValues,
+                      JoystickValues {};
 
 }  // namespace quorrin

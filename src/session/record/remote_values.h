@@ -26,8 +26,6 @@ struct VoiceValues {
     Integer playbackBlockCount;
     Integer voiceBufferIndex;
     Integer voiceQuietTicks;
-    Integer joystickGear;
-    bool joystickDriveLatch = false;
     // The last robot sound: a handle of the multimedia link and a length in bytes.
     Long robotSoundAddress;
     Long robotSoundLength;
