@@ -43,6 +43,9 @@ class Writer:
         self.lines = []
         self.t = 0
         self.wild = self.random.random() < 0.3      # readings from the whole range of 16 bits
+        self.sticky = self.random.random() < 0.5    # there is a joystick
+        self.buttons = self.random.choice([0, 0, 4, 6, 7, 12, 32])  # 0: the script does not say
+        self.stick = {"x": 5000, "y": 5000, "slider": 10000, "pov": -1, "buttons": []}
         self.controls = [name for group in self.kinds.values() for name in group]
 
     def reading(self):
@@ -73,8 +76,26 @@ class Writer:
                  "dropdown": lambda: r.choice(["3", "7", "", "2026-11-20"])}[kind]()
         return {"set": r.choice(self.kinds[kind]), "to": value}
 
+    def joystick(self):
+        """The stick's next state: one or two of its values change, now and then to the one it has."""
+        r = self.random
+        axis = lambda: r.choice([0, 5000, 6000, 6001, 10000, r.randint(0, 10000)])
+        changes = {"x": axis, "y": axis, "slider": axis,
+                   "pov": lambda: r.choice([-1, 0, 4500, 9000, 18000, 27000, 35999]),
+                   "buttons": lambda: sorted(r.sample(range(self.buttons or 12), r.choice([0, 1, 2, 3])))}
+        for key in r.sample(sorted(changes), r.randint(1, 2)):
+            self.stick[key] = changes[key]()
+        if r.random() < 0.2:
+            self.stick["buttons"] = r.choice([[0, 6], [1, 6], [0, 31]])
+        entry = {"joystick": dict(self.stick)}
+        if self.buttons and r.random() < 0.3:
+            r.choice([entry, entry["joystick"]])["lButtons"] = self.buttons
+        return entry
+
     def operator(self):
         r = self.random
+        if self.sticky and r.random() < 0.3:
+            return self.joystick()
         what = r.random()
         if what < 0.35:
             return {"click": r.choice(self.kinds["button"] + self.kinds.get("check", []))}

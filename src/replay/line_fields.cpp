@@ -66,6 +66,34 @@ std::int64_t LineFields::whole(const std::string& key) {
     return value.get<std::int64_t>();
 }
 
+std::int64_t LineFields::wholeWithin(const std::string& key, std::int64_t minimum, std::int64_t maximum) {
+    const std::int64_t value = whole(key);
+    if (value < minimum || value > maximum)
+        fail(quoted(key) + " must be from " + std::to_string(minimum) + " to " + std::to_string(maximum));
+    return value;
+}
+
+std::vector<std::int64_t> LineFields::wholesWithin(const std::string& key, std::int64_t minimum,
+                                                   std::int64_t maximum) {
+    const Json& value = take(key);
+    const std::string reason = quoted(key) + " must be a list of whole numbers from " +
+                               std::to_string(minimum) + " to " + std::to_string(maximum);
+    if (!value.is_array()) fail(reason);
+    std::vector<std::int64_t> all;
+    for (const Json& element : value) {
+        if (!isWhole(element)) fail(reason);
+        all.push_back(element.get<std::int64_t>());
+        if (all.back() < minimum || all.back() > maximum) fail(reason);
+    }
+    return all;
+}
+
+LineFields LineFields::object(const std::string& key) {
+    const Json& value = take(key);
+    if (!value.is_object()) fail(quoted(key) + " must be an object");
+    return {value, line_};
+}
+
 bool LineFields::boolean(const std::string& key) {
     const Json& value = take(key);
     if (!value.is_boolean()) fail(quoted(key) + " must be true or false");

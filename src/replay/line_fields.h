@@ -26,10 +26,15 @@ class LineFields {
     std::string text(const std::string& key);
     std::vector<std::string> texts(const std::string& key);
     std::int64_t whole(const std::string& key);
+    std::int64_t wholeWithin(const std::string& key, std::int64_t minimum, std::int64_t maximum);
+    std::vector<std::int64_t> wholesWithin(const std::string& key, std::int64_t minimum,
+                                           std::int64_t maximum);
     bool boolean(const std::string& key);
     // A signed 16-bit number.
     std::int16_t integer(const std::string& key);
     std::array<std::int16_t, 4> fourIntegers(const std::string& key);
+    // An object inside the line, to be taken apart like a line. It must not outlive this.
+    LineFields object(const std::string& key);
     // A text, a whole number, or true or false.
     ControlValue controlValue(const std::string& key);
 

@@ -8,7 +8,11 @@ namespace {
 constexpr std::size_t kPieceBytes = 256 * 1024;
 }
 
-LineReader::LineReader(std::FILE* file) : file_(file), good_(file != nullptr), buffer_(kPieceBytes) {}
+LineReader::LineReader(std::FILE* file)
+    : file_(file),
+      start_(file != nullptr ? std::ftell(file) : 0),
+      good_(file != nullptr),
+      buffer_(kPieceBytes) {}
 
 // Makes room behind the unread bytes and reads more; false at the end.
 bool LineReader::fill() {
@@ -26,6 +30,14 @@ bool LineReader::fill() {
     }
     end_ += got;
     return true;
+}
+
+void LineReader::rewind() {
+    begin_ = 0;
+    end_ = 0;
+    number_ = 0;
+    atEnd_ = false;
+    good_ = file_ != nullptr && std::fseek(file_, start_, SEEK_SET) == 0;
 }
 
 std::optional<std::string_view> LineReader::next() {

@@ -20,6 +20,8 @@ class LineReader {
     LineReader(const LineReader&) = delete;
     LineReader& operator=(const LineReader&) = delete;
 
+    // Begins anew with the first line; the file must be one that can go back.
+    void rewind();
     // Is there a file, and has all reading succeeded so far?
     bool good() const { return good_; }
     // Empty at the end.
@@ -31,6 +33,7 @@ class LineReader {
     bool fill();
 
     std::FILE* file_;
+    long start_;  // where in the file the first line begins
     bool good_;
     bool atEnd_ = false;
     std::vector<char> buffer_;

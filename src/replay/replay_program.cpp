@@ -8,6 +8,7 @@
 #include "platform/host/temporary_folder.h"
 #include "replay/replay_options.h"
 #include "replay/replay_run.h"
+#include "replay/script_source.h"
 #include "session/first_start.h"
 
 namespace quorrin {
@@ -23,17 +24,6 @@ int complain(std::FILE* err, const std::string& what) {
 
 std::string errorText(const std::string& script, const ScriptError& error) {
     return script + ": line " + std::to_string(error.line) + ": " + error.reason;
-}
-
-struct CloseFile {
-    void operator()(std::FILE* file) const {
-        if (file != stdin) std::fclose(file);
-    }
-};
-using OpenFile = std::unique_ptr<std::FILE, CloseFile>;
-
-OpenFile openScript(const std::string& script) {
-    return OpenFile(script == "-" ? stdin : std::fopen(script.c_str(), "rb"));
 }
 
 std::string folderOf(const std::string& script) {
@@ -89,8 +79,9 @@ bool prepareApplication(const ReplayOptions& options, Application& application, 
 
 int replayScript(const ReplayOptions& options, std::FILE* out, std::FILE* err) {
     const std::string& script = *options.script;
-    const OpenFile file = openScript(script);
-    if (!file) return complain(err, script + ": cannot be opened");
+    std::string complaint;
+    const OpenFile file = openScript(script, complaint);
+    if (!file) return complain(err, script + ": " + complaint);
     Application application;
     if (!prepareApplication(options, application, err)) return kUnusable;
 
@@ -125,8 +116,9 @@ bool readRobot(const ReplayOptions& options, Files& files, RobotSetup& robot, st
 
 int replayRobot(const ReplayOptions& options, std::FILE* out, std::FILE* err) {
     const std::string script = options.script.value_or("(no script)");
-    const OpenFile file = options.script ? openScript(script) : OpenFile(std::fopen("/dev/null", "rb"));
-    if (!file) return complain(err, script + ": cannot be opened");
+    std::string complaint;
+    const OpenFile file = openScript(options.script.value_or("/dev/null"), complaint);
+    if (!file) return complain(err, script + ": " + complaint);
     Application application;
     RobotSetup robot;
     if (!readRobot(options, application.files, robot, err)) return kUnusable;

@@ -6,6 +6,7 @@
 
 #include "base/json_text.h"
 #include "base/program_error.h"
+#include "replay/joystick_line.h"
 #include "replay/script_parser.h"
 
 namespace quorrin {
@@ -79,7 +80,9 @@ StationPorts ReplayRun::ports() {
             robot_ ? robot_->myRobot() : myRobot_,
             robot_ ? robot_->robotTI() : robotTI_,
             setup_.folders,
-            [] { throw ProgramEnd{}; }};
+            [] { throw ProgramEnd{}; },
+            {},
+            &sticks_};
 }
 
 ReplayRun::~ReplayRun() {
@@ -111,6 +114,9 @@ ReplayEnd ReplayRun::run() {
 }
 
 void ReplayRun::play() {
+    stickButtons_ = buttonsOfStick(script_);
+    script_.rewind();
+    if (stickButtons_ > 0) sticks_.attach(stickButtons_);
     const bool any = readLine();
     // The first line says whether the run begins at the login, so that one must be good.
     if (next_.broken) throw *next_.broken;
@@ -219,9 +225,17 @@ void ReplayRun::perform(const ScriptLine& line) {
         operator_.perform(*activate, number);
     } else if (const auto* answer = std::get_if<AnswerLine>(&what)) {
         prepareAnswer(answer->answer);
+    } else if (const auto* stick = std::get_if<JoystickLine>(&what)) {
+        moveStick(*stick, number);
     } else if (const auto* watch = std::get_if<WatchLine>(&what)) {
         watch_.emplace(clock_, output_, fields_, *watch, number);
     }
+}
+
+void ReplayRun::moveStick(const JoystickLine& line, std::int64_t number) {
+    if (line.buttons > 0 && line.buttons != stickButtons_)
+        throw ScriptError{number, "the stick has " + std::to_string(stickButtons_) + " buttons"};
+    sticks_.move(line.state);
 }
 
 void ReplayRun::raise(const FrameLine& line) {

@@ -4,6 +4,9 @@
 // begins to be delivered, so that a line that waits holds back those behind it, and a script may be longer
 // than memory. Nothing behind a line that cannot be used is run; the output of the lines before it stands.
 //
+// The script is looked through once before it runs, since a stick that it moves anywhere is there from the
+// start: its file must be one that can go back.
+//
 // Not here: command line, files of the host, share folder (see the program's main).
 #pragma once
 
@@ -15,6 +18,7 @@
 #include "platform/files.h"
 #include "platform/folders.h"
 #include "platform/virtual/scripted_boxes.h"
+#include "platform/virtual/scripted_joysticks.h"
 #include "platform/virtual/scripted_programs.h"
 #include "platform/virtual/virtual_clock.h"
 #include "replay/line_reader.h"
@@ -81,6 +85,7 @@ class ReplayRun {
     void feed();
     void deliver();
     void perform(const ScriptLine& line);
+    void moveStick(const JoystickLine& line, std::int64_t number);
     void raise(const FrameLine& line);
     void raiseWithFile(const FrameFileLine& line, std::int64_t number);
     void prepareAnswer(const std::string& answer);
@@ -94,6 +99,8 @@ class ReplayRun {
     Output output_;
     ScriptedPrograms programs_;
     ScriptedBoxes boxes_;
+    ScriptedJoysticks sticks_;
+    int stickButtons_ = 0;  // 0: the script moves no stick
     ScriptedLink myRobot_;
     ScriptedLink robotTI_;
     std::optional<RobotWorld> robot_;

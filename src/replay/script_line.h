@@ -8,6 +8,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/joysticks.h"
 #include "robotlink/frame_table.h"
 
 namespace quorrin {
@@ -62,6 +63,10 @@ struct FocusLine {
 struct AnswerLine {
     std::string answer;
 };
+struct JoystickLine {
+    JoystickState state;
+    int buttons = 0;  // how many the stick has; 0 where the line does not say
+};
 struct UnloadLine {
     std::string form;  // empty: the main form
 };
@@ -79,7 +84,7 @@ struct ScriptLine {
     std::int64_t number = 0;  // in the file, from 1
     std::int64_t timeMs = 0;
     std::variant<FrameLine, FrameFileLine, ClickLine, PressLine, SetLine, KeyLine, FocusLine, AnswerLine,
-                 UnloadLine, ActivateLine, WatchLine, LoginLine>
+                 JoystickLine, UnloadLine, ActivateLine, WatchLine, LoginLine>
         what;
 };
 

@@ -1,10 +1,12 @@
 #include "replay/script_parser.h"
 
 #include <algorithm>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <set>
 
 #include "replay/frame_scanner.h"
+#include "replay/joystick_line.h"
 #include "replay/line_fields.h"
 #include "replay/script_error.h"
 #include "replay/script_limits.h"
@@ -16,17 +18,18 @@ namespace {
 using Json = nlohmann::json;
 
 // Kinds of lines of rooms that the station does not have yet.
-constexpr const char* kNotBuilt[] = {"choose", "joystick",    "connect",    "receive",
-                                     "hangup", "socketError", "waveInDone", "waveOutDone"};
+constexpr const char* kNotBuilt[] = {"choose",      "connect",    "receive",    "hangup",
+                                     "socketError", "waveInDone", "waveOutDone"};
 
 Json parseObject(std::string_view text, std::int64_t number) {
     if (text.substr(0, 3) == "\xEF\xBB\xBF") throw ScriptError{number, "begins with a byte order mark"};
-    std::set<std::string> keys;
+    std::map<int, std::set<std::string>> keys;  // of the objects that are open, by depth
     std::string twice;
     const auto watchKeys = [&](int depth, Json::parse_event_t event, Json& parsed) {
-        if (event == Json::parse_event_t::key && depth == 1) {
+        if (event == Json::parse_event_t::object_start) keys[depth + 1].clear();
+        if (event == Json::parse_event_t::key) {
             const auto& key = parsed.get_ref<const std::string&>();
-            if (!keys.insert(key).second) twice = key;
+            if (!keys[depth].insert(key).second) twice = key;
         }
         return true;
     };
@@ -119,6 +122,10 @@ void parseAnswer(LineFields& fields, ScriptLine& line) {
     line.what = AnswerLine{answer};
 }
 
+void parseJoystick(LineFields& fields, ScriptLine& line) {
+    line.what = joystickLine(fields);
+}
+
 void parseLogin(LineFields& fields, ScriptLine& line) {
     if (!fields.boolean("login")) fields.fail("\"login\" must be true");
     line.what = LoginLine{};
@@ -148,6 +155,7 @@ constexpr Kind kKinds[] = {
     {"keyUp", [](LineFields& f, ScriptLine& line) { parseKey(f, line, false); }},
     {"focus", [](LineFields& f, ScriptLine& line) { line.what = FocusLine{f.text("focus")}; }},
     {"answer", parseAnswer},
+    {"joystick", parseJoystick},
     {"unload", parseUnload},
     {"activate", [](LineFields& f, ScriptLine& line) { line.what = ActivateLine{f.text("activate")}; }},
     {"watch", parseWatch},

@@ -77,7 +77,11 @@ void addFormFields(FieldTable& table, const frmGUI& gui) {
     QUORRIN_FIELD(statusBroadcastTicks);
     QUORRIN_FIELD(formRunning);
     QUORRIN_FIELD(connCheckTicks);
+    QUORRIN_FIELD(joystickRunning);
+    QUORRIN_FIELD(joystickEventHandle);
+    QUORRIN_FIELD(lButtons);
 #undef QUORRIN_FIELD
+    table.addList("AxisPresent", gui.AxisPresent, 1);
     table.addPrinter("densityThreshold", thresholdPrinter(gui.txtTh1));
     table.addPrinter("speedSaturation", thresholdPrinter(gui.txtTh2));
     table.addPrinter("sideClearance", thresholdPrinter(gui.txtTh3));

@@ -36,6 +36,24 @@ TEST(LineReader, LinesLongerThanThePieceAndAcrossItsEdgeComeWhole) {
     EXPECT_EQ(readAll(text), lines);
 }
 
+TEST(LineReader, BeginsAnewWhereItBegan) {
+    std::string text = "passed over\none\ntwo";
+    std::FILE* file = fmemopen(text.data(), text.size(), "rb");
+    std::fseek(file, 12, SEEK_SET);
+    LineReader reader(file);
+    while (reader.next()) {
+    }
+    reader.rewind();
+    EXPECT_EQ(reader.next(), "one");
+    EXPECT_EQ(reader.lineNumber(), 1);
+    reader.rewind();
+    EXPECT_EQ(reader.next(), "one");
+    EXPECT_EQ(reader.next(), "two");
+    EXPECT_EQ(reader.next(), std::nullopt);
+    EXPECT_TRUE(reader.good());
+    std::fclose(file);
+}
+
 TEST(LineReader, AFileThatIsNotThereReadsNothingAndIsNotGood) {
     LineReader reader(nullptr);
     EXPECT_FALSE(reader.good());

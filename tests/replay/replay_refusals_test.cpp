@@ -43,7 +43,7 @@ TEST(ReplayRefusals, NameTheLineAndTheReason) {
     expectRefused("{\"t\": 5, \"login\": true}\n", 1, "\"login\" stands in the first line, at 0, or nowhere");
     expectRefused("\n\nrubbish\n", 3,
                   "no valid JSON: syntax error while parsing value - invalid literal; last read: 'r'");
-    expectRefused(good + "{\"t\": 1100, \"joystick\": {\"x\": 5000}}\n", 3, "\"joystick\" is not built yet");
+    expectRefused(good + "{\"t\": 1100, \"choose\": \"a.wav\"}\n", 3, "\"choose\" is not built yet");
 }
 
 TEST(ReplayRefusals, AKindOfControlThatDoesNotTakeTheActionIsNamed) {

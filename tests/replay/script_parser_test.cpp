@@ -105,7 +105,7 @@ TEST(ScriptParser, ReadsTheOperatorsLines) {
 
 TEST(ScriptParser, RefusesWhatTheStationDoesNotHaveYetByName) {
     for (const std::string kind :
-         {"choose", "joystick", "connect", "receive", "hangup", "socketError", "waveInDone", "waveOutDone"}) {
+         {"choose", "connect", "receive", "hangup", "socketError", "waveInDone", "waveOutDone"}) {
         EXPECT_EQ(reason("{\"t\": 1, \"" + kind + "\": 0}"), "\"" + kind + "\" is not built yet");
     }
 }

@@ -107,7 +107,9 @@ constexpr const char* kMainForm[] = {"alarmCnt",         "alarmEnd",
                                      "cMouthUpDown",     "cEyeUpDown",
                                      "cEyeLeftRight",    "sensorClientConnected",
                                      "statusRecordTail", "statusBroadcastTicks",
-                                     "formRunning",      "connCheckTicks"};
+                                     "formRunning",      "connCheckTicks",
+                                     "joystickRunning",  "joystickEventHandle",
+                                     "lButtons",         "AxisPresent"};
 
 constexpr const char* kTasks[] = {"GPS.SonarGPSInterval",
                                   "GPS.EstInterval",
