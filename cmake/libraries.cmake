@@ -38,6 +38,9 @@ quorrin_library(quorrin_virtual FOLDERS platform/virtual LINK quorrin_base)
 quorrin_library(quorrin_qt FOLDERS platform/qt LINK quorrin_host quorrin_base Qt6::Core Qt6::Network)
 # "signals", "slots" and "emit" stay ordinary words.
 target_compile_definitions(quorrin_qt PUBLIC QT_NO_KEYWORDS)
+# Joysticks. The programs of this library that meet none do not load it.
+target_link_libraries(quorrin_qt PRIVATE SDL2::SDL2)
+target_link_options(quorrin_qt INTERFACE LINKER:--as-needed)
 
 quorrin_library(quorrin_gateway FOLDERS gateway LINK quorrin_wire)
 quorrin_library(quorrin_robot FOLDERS robot LINK quorrin_station quorrin_wire box2d::box2d nlohmann_json::nlohmann_json)

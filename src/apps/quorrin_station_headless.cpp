@@ -52,8 +52,16 @@ int runStation(RealStation& real, Terminal& terminal) {
     TerminalBoxes answered(terminal);
     RecordedBoxes boxes(answered, real.recorder);
     const std::int64_t startMs = real.clock.nowMs();
-    Station station({real.time, real.files, real.programs, boxes, real.recordedMyRobot, real.recordedRobotTI,
-                     real.host.folders, [] { throw ProgramEnd{}; }});
+    Station station({real.time,
+                     real.files,
+                     real.programs,
+                     boxes,
+                     real.recordedMyRobot,
+                     real.recordedRobotTI,
+                     real.host.folders,
+                     [] { throw ProgramEnd{}; },
+                     {},
+                     &real.recordedSticks});
     bool recording = true;
     TimerMM status(real.clock, [&] {
         if (recording && !real.recorder.complaint().empty()) {

@@ -1,5 +1,5 @@
 // The real ports that a station stands on, for the mains of the two stations: folders, files, clock, links,
-// programs. Composes, decides nothing.
+// joysticks, programs. Composes, decides nothing.
 #pragma once
 
 #include <string>
@@ -14,9 +14,11 @@
 #include "platform/paced_clock.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_streams.h"
+#include "platform/qt/sdl_joysticks.h"
 #include "robotlink/gateway_link.h"
 #include "session/first_start.h"
 #include "session/flight_recorder.h"
+#include "session/recorded_joysticks.h"
 #include "session/recorded_link.h"
 #include "session/station.h"
 
@@ -34,10 +36,12 @@ struct RealStation {
     LockWindow window{host.run, kStationTitle};
     GatewayLink myRobot{time, streams, files};
     GatewayLink robotTI{time, streams, files};
-    // What comes in, written down; the station uses the links through it.
+    SdlJoysticks sticks{clock, time};
+    // What comes in, written down; the station uses links and joysticks through it.
     FlightRecorder recorder{time, files, createPosixAppendFile, host.state};
     RecordedLink recordedMyRobot{myRobot, LinkName::myRobot, recorder};
     RecordedLink recordedRobotTI{robotTI, LinkName::robotTI, recorder};
+    RecordedJoysticks recordedSticks{sticks, recorder};
     // Goes first at the end: it waits for the gateways that were asked to close.
     PosixPrograms programs{host.run};
 

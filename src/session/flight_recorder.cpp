@@ -92,11 +92,15 @@ void FlightRecorder::line(const std::string& members) {
 
 void FlightRecorder::boxAnswered(BoxButtons buttons, BoxAnswer answer) {
     // A box that does not ask is answered in the same way by the replay.
-    if (!begun_ || !complaint_.empty() || buttons != BoxButtons::yesNo) return;
+    if (buttons != BoxButtons::yesNo) return;
+    lineBefore(member("answer", answer == BoxAnswer::yes ? "yes" : "no"));
+}
+
+void FlightRecorder::lineBefore(const std::string& members) {
+    if (!begun_ || !complaint_.empty()) return;
     settle();
-    const std::string text = answer == BoxAnswer::yes ? "yes" : "no";
     const std::int64_t before = std::max(settledMs_, clock_.outermostMs());
-    held_ = timed(before, member("answer", text)) + held_;
+    held_ = timed(before, members) + held_;
     heldMs_ = std::max(heldMs_, before);
 }
 

@@ -44,6 +44,8 @@ class FlightRecorder {
     void watchForm(Form& form, bool mainForm);
     // `members` is what comes behind the time: "\"frame\": \"IrFrame\", \"IrAdc1\": 5".
     void line(const std::string& members);
+    // The same for what must stand before the event under way, as it has to be known when that begins.
+    void lineBefore(const std::string& members);
     void boxAnswered(BoxButtons buttons, BoxAnswer answer);
 
     // Why there is no recording any more; empty while there is.

@@ -29,19 +29,13 @@ struct StationBench {
         : clock(sharedClock),
           myRobot(log, "myRobot."),
           robotTI(log, "robotTI."),
-          station({clock,
-                   files,
-                   programs,
-                   boxes,
-                   myRobot,
-                   robotTI,
+          station({clock, files, programs, boxes, myRobot, robotTI,
                    Folders{"/app", "/windows", "/voice", "/programs"},
                    [this] {
                        log.push_back("ended");
                        ended = true;
                    },
-                   [this](const std::string& address) { log.push_back("page " + address); },
-                   &sticks}),
+                   [this](const std::string& address) { log.push_back("page " + address); }, &sticks}),
           values(station.values),
           gui(station.gui) {
         files.createFolder("/app");
