@@ -49,11 +49,11 @@ int endInCrash(RealStation& real, Terminal& terminal, const std::string& what) {
 int runStation(RealStation& real, Terminal& terminal) {
     WindowBoxes shown(real.time, [&] { real.clock.rethrowIfEnded(); });
     RecordedBoxes boxes(shown, real.recorder);
-    Station station({real.time, real.files, real.programs, boxes, real.recordedMyRobot, real.recordedRobotTI,
-                     real.host.folders, [] { throw ProgramEnd{}; },
-                     [](const std::string& address) {
-                         QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
-                     }});
+    Station station(
+        {real.time, real.files, real.programs, boxes, real.recordedMyRobot, real.recordedRobotTI,
+         real.host.folders, [] { throw ProgramEnd{}; },
+         [](const std::string& address) { QDesktopServices::openUrl(QUrl(QString::fromStdString(address))); },
+         &real.recordedSticks});
     StationWindows windows(station, OperatorActs(real.time));
     const auto complain = [&](const std::string& text) {
         terminal.line(text);
