@@ -291,6 +291,24 @@ void Picture::refresh() {
     looks();
 }
 
+void Picture::moveTo(std::int32_t left, std::int32_t top) {
+    if (area_.left == left && area_.top == top) return;
+    area_.left = left;
+    area_.top = top;
+    looks();
+}
+
+void Picture::clearDrawing() {
+    if (drawing_.empty()) return;
+    drawing_.clear();
+    looks();
+}
+
+void Picture::drawCircle(const DrawnCircle& circle) {
+    drawing_.push_back(circle);
+    looks();
+}
+
 std::string Picture::valueText() const {
     return file_.empty() ? std::to_string(number_) : file_;
 }

@@ -14,6 +14,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/area.h"
 #include "base/form.h"
 #include "base/program_error.h"
 #include "platform/timer_mm.h"
@@ -214,8 +215,18 @@ class Shape : public Control {
     Colour fill_;
 };
 
+// A circle on a picture's drawing layer. Twips in the picture's own frame.
+struct DrawnCircle {
+    double x = 0;
+    double y = 0;
+    double radius = 0;
+    Colour colour = 0;
+    bool operator==(const DrawnCircle&) const = default;
+};
+
 // A picture: from the form's image list by number (0: none), or from a file by path. A view reads the file,
-// but for one whose content stands here: a file that is written while it is looked at.
+// but for one whose content stands here: a file that is written while it is looked at. What is drawn on it
+// lies on a layer of its own and stays until it is cleared.
 class Picture : public Control {
   public:
     Picture(Form& form, std::string name);
@@ -235,6 +246,16 @@ class Picture : public Control {
     // The number, or the file where one was loaded.
     std::string valueText() const override;
 
+    // Where it is in what holds it, for pictures whose place counts; told by a view, or by who loads it.
+    const Area& area() const { return area_; }
+    void setArea(const Area& area) { area_ = area; }
+    // The program moves the picture, keeping its size.
+    void moveTo(std::int32_t left, std::int32_t top);
+
+    const std::vector<DrawnCircle>& drawing() const { return drawing_; }
+    void clearDrawing();
+    void drawCircle(const DrawnCircle& circle);
+
     // Keys, on a picture whose form listens to them. Not on their way up: what auto-repeat makes of a key
     // that is held.
     void operatorKeyDown(int key);
@@ -247,6 +268,8 @@ class Picture : public Control {
     std::string file_;
     std::shared_ptr<const std::string> content_;
     std::int64_t refreshes_ = 0;
+    Area area_;
+    std::vector<DrawnCircle> drawing_;
 };
 
 // A group of controls that is shown, hidden and moved as one.

@@ -1,5 +1,6 @@
 #include "session/main_form.h"
 
+#include "console/floor_plan.h"
 #include "console/fold_outs.h"
 #include "console/music_choice.h"
 #include "robotlink/head_update.h"
@@ -23,6 +24,7 @@ MainForm::MainForm(const StationPorts& ports, PublicValues& values, frmGUI& gui,
     bindKeys();
     bindCounters();
     bindFoldOuts(gui_);
+    bindFloorPlan(gui_);
     bindMusicChoice(gui_);
 }
 

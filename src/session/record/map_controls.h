@@ -1,5 +1,5 @@
 // The main form's floor plan: a big picture behind a smaller viewport with two scroll bars, and an overview.
-// Scroll values are twips.
+// Twips throughout.
 #pragma once
 
 #include "base/controls.h"
@@ -14,7 +14,13 @@ struct MapControls {
           imgThumb(form, "imgThumb"),
           HScroll1(form, "HScroll1", 1, 1, 1),
           VScroll1(form, "VScroll1", 1, 1, 1),
-          RoomPic(form, "RoomPic") {}
+          RoomPic(form, "RoomPic") {
+        // Until a view tells how large the viewport really is.
+        Frame1.setArea({0, 0, kDesignedViewportWidth, kDesignedViewportHeight});
+    }
+
+    static constexpr int kDesignedViewportWidth = 9000;
+    static constexpr int kDesignedViewportHeight = 6750;
 
     Frame fraMapDisplay;
     Frame Frame1;  // the viewport
