@@ -24,7 +24,13 @@ void bindFoldOuts(FoldOutControls& controls) {
 
 void hideFoldOuts(FoldOutControls& controls) {
     controls.fraSetting.setVisible(false);
+    controls.fraSetting.moveTo(kSettingPlace.left, kSettingPlace.top);
     controls.fraSensor.setVisible(false);
+    controls.fraSensor.moveTo(kSensorPlace.left, kSensorPlace.top);
+}
+
+void openSensor(FoldOutControls& controls) {
+    controls.fraSensor.setVisible(true);
 }
 
 }  // namespace quorrin

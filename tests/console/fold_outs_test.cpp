@@ -21,6 +21,42 @@ TEST_F(FoldOuts, BothPanelsStartHidden) {
     EXPECT_FALSE(controls.fraSensor.visible());
 }
 
+TEST_F(FoldOuts, BothPanelsStartAtTheirPlaces) {
+    EXPECT_EQ(controls.fraSetting.area(), kSettingPlace);
+    EXPECT_EQ(controls.fraSensor.area(), kSensorPlace);
+}
+
+TEST_F(FoldOuts, APanelKeepsTheSizeThatItsViewTold) {
+    controls.fraSetting.setArea({0, 0, 3000, 2000});
+    hideFoldOuts(controls);
+    EXPECT_EQ(controls.fraSetting.area(), (Area{kSettingPlace.left, kSettingPlace.top, 3000, 2000}));
+}
+
+TEST_F(FoldOuts, OpeningTheEngineeringViewTouchesNothingElse) {
+    controls.cmdExpandSetting.operatorClick();
+    int acts = 0;
+    form.onOperatorAct = [&acts](const OperatorAct&) { ++acts; };
+    openSensor(controls);
+    EXPECT_TRUE(controls.fraSensor.visible());
+    EXPECT_TRUE(controls.fraSetting.visible());
+    EXPECT_EQ(controls.cmdExpandSetting.caption(), "Close Setting");
+    EXPECT_EQ(acts, 0);
+}
+
+TEST_F(FoldOuts, AnyOtherCaptionHidesThePanel) {
+    controls.fraSetting.setVisible(true);
+    controls.cmdExpandSetting.setCaption("Something else");
+    controls.cmdExpandSetting.operatorClick();
+    EXPECT_FALSE(controls.fraSetting.visible());
+    EXPECT_EQ(controls.cmdExpandSetting.caption(), "Open Setting");
+}
+
+TEST_F(FoldOuts, CloseSettingOnAClosedPanelLeavesItReadyToOpen) {
+    controls.cmdCloseSetting.operatorClick();
+    EXPECT_EQ(controls.cmdExpandSetting.caption(), "Open Setting");
+    EXPECT_FALSE(controls.fraSetting.visible());
+}
+
 TEST_F(FoldOuts, OpenSettingShowsThePanel) {
     controls.cmdExpandSetting.operatorClick();
     EXPECT_TRUE(controls.fraSetting.visible());
