@@ -299,6 +299,17 @@ TEST_F(PanelWindow, CombinationsWithControlStayShortcuts) {
     EXPECT_FALSE(combined.isAccepted());
 }
 
+TEST_F(PanelWindow, AFunctionKeyIsLeftToShortcutsAndIsAKeyLikeAnyOtherWhereItIsNone) {
+    open();
+    QKeyEvent maybe(QEvent::ShortcutOverride, Qt::Key_F4, Qt::NoModifier);
+    maybe.ignore();
+    QCoreApplication::sendEvent(&body(), &maybe);
+    EXPECT_FALSE(maybe.isAccepted());
+    keyDown(Qt::Key_Up);
+    keyDown(Qt::Key_F5);
+    EXPECT_EQ(values.gasLevel, 9000);
+}
+
 TEST_F(PanelWindow, TheBrakesBarHasItsMaximumAtTheTopAllOthersTheirMinimum) {
     for (const char* name : {"scrGas", "scrHeadUD", "scrMouthUD"}) {
         EXPECT_FALSE(widget<QScrollBar>(name).invertedAppearance()) << name;

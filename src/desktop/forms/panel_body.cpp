@@ -19,6 +19,11 @@ bool isShortcut(const QKeyEvent& event) {
     return !itself && (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier));
 }
 
+// May be a shortcut of the panel's owner; a key like any other where it is none.
+bool isFunctionKey(const QKeyEvent& event) {
+    return event.key() >= Qt::Key_F1 && event.key() <= Qt::Key_F35;
+}
+
 bool pressesButton(const QKeyEvent& event) {
     return event.key() == Qt::Key_Space || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
@@ -37,7 +42,7 @@ void PanelBody::setAlpha(int alpha) {
 bool PanelBody::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
-        if (!movesFocus(key) && !isShortcut(key)) {
+        if (!movesFocus(key) && !isShortcut(key) && !isFunctionKey(key)) {
             event->accept();
             return true;
         }

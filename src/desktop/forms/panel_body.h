@@ -3,8 +3,8 @@
 // Which key goes where: while the focus is on the background, all but Tab and Shift+Tab, which go through the
 // panel's controls as everywhere. While it is on a button, that button has Space and Enter, and the
 // background all others. A scroll bar that was reached by Tab keeps its keys. Combinations with Ctrl, Alt or
-// the logo key stay shortcuts; the keys themselves are keys like any other. What a keyboard's auto-repeat
-// says of a key coming up is no release.
+// the logo key stay shortcuts, and so do function keys where they are one. What a keyboard's auto-repeat says
+// of a key coming up is no release.
 #pragma once
 
 #include <QKeyEvent>
