@@ -2,7 +2,7 @@
 
 #include <QVBoxLayout>
 
-#include "console/crash_report.h"
+#include "console/maker.h"
 #include "console/menu_words.h"
 #include "desktop/binding/form_link.h"
 #include "desktop/forms/about_window.h"
@@ -34,6 +34,12 @@ class MainWindow : public QWidget {
     ControlFactory controls_;
 };
 
+QStringList makers() {
+    QStringList lines;
+    for (const char* line : kDesignTeam) lines << QString::fromUtf8(line);
+    return lines;
+}
+
 }  // namespace
 
 struct StationWindows::Windows {
@@ -42,7 +48,7 @@ struct StationWindows::Windows {
           main(station.gui, acts),
           panel(station.controlPanel, station.console().controlPanel().drag(), acts, &main),
           zoom(station.zoomCamera, station.console().zoomCamera().drag(), acts),
-          about(station.about, acts, {}),
+          about(station.about, acts, makers()),
           closing(main) {}
 
     LoginWindow login;

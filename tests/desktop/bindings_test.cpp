@@ -138,21 +138,61 @@ TEST_F(Bindings, BackspaceAndEnterReachABoxThatListensBeforeTheirEffect) {
     EXPECT_EQ(heard, "8abc 13ab ");
 }
 
-TEST_F(Bindings, ALabelShowsItsCaptionAsPlainText) {
-    auto& label = put<QLabel>("lblState");
+TEST_F(Bindings, ALabelShowsItsCaption) {
+    auto& label = put<ShadowLabel>("lblState");
+    form.lblState.setCaption("busy");
+    EXPECT_EQ(label.caption(), "busy");
+}
+
+TEST_F(Bindings, APlainLabelShowsItsCaptionAsPlainText) {
+    QLabel label;
+    bind(label, form.lblState, acts);
     form.lblState.setCaption("<b>busy</b>");
     EXPECT_EQ(label.text(), "<b>busy</b>");
     EXPECT_EQ(label.textFormat(), Qt::PlainText);
 }
 
-TEST_F(Bindings, AButtonShowsItsCaptionWithEveryLetter) {
-    auto& button = put<QPushButton>("cmdGo");
+TEST_F(Bindings, AButtonShowsItsCaption) {
+    auto& button = put<Command>("cmdGo");
+    form.cmdGo.setCaption("Stop");
+    EXPECT_EQ(button.caption(), "Stop");
+}
+
+TEST_F(Bindings, APlainButtonShowsItsCaptionWithEveryLetter) {
+    QPushButton button;
+    bind(button, form.cmdGo, acts);
     form.cmdGo.setCaption("Stop & go");
     EXPECT_EQ(button.text(), "Stop && go");
 }
 
-TEST_F(Bindings, AClickIsPressReleaseAndClickInTheirOrder) {
-    auto& button = put<QPushButton>("cmdGo");
+TEST_F(Bindings, AButtonsPressReleaseAndClickReachItsControlInTheirOrder) {
+    auto& button = put<Command>("cmdGo");
+    settle();
+    std::string heard;
+    form.cmdGo.onMouseDown = [&] { heard += "down "; };
+    form.cmdGo.onMouseUp = [&] { heard += "up "; };
+    form.cmdGo.onClick = [&] { heard += "click "; };
+    button.onPress();
+    button.onClick();
+    button.onRelease();
+    EXPECT_EQ(heard, "");
+    settle();
+    EXPECT_EQ(heard, "down click up ");
+}
+
+TEST_F(Bindings, AKeyOnAButtonClicksIt) {
+    auto& button = put<Command>("cmdGo");
+    activate();
+    int clicks = 0;
+    form.cmdGo.onClick = [&] { ++clicks; };
+    QTest::keyClick(&button, Qt::Key_Space);
+    settle();
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Bindings, APlainButtonsClickIsPressReleaseAndClickInTheirOrder) {
+    QPushButton button;
+    bind(button, form.cmdGo, acts);
     std::string heard;
     form.cmdGo.onMouseDown = [&] { heard += "down "; };
     form.cmdGo.onMouseUp = [&] { heard += "up "; };
@@ -164,7 +204,7 @@ TEST_F(Bindings, AClickIsPressReleaseAndClickInTheirOrder) {
 }
 
 TEST_F(Bindings, ADisabledButtonIsDisabledInItsWindow) {
-    auto& button = put<QPushButton>("cmdGo");
+    auto& button = put<Command>("cmdGo");
     form.cmdGo.setEnabled(false);
     EXPECT_FALSE(button.isEnabled());
     form.cmdGo.setEnabled(true);
@@ -172,7 +212,7 @@ TEST_F(Bindings, ADisabledButtonIsDisabledInItsWindow) {
 }
 
 TEST_F(Bindings, AnInvisibleControlIsNotToBeSeen) {
-    auto& button = put<QPushButton>("cmdGo");
+    auto& button = put<Command>("cmdGo");
     settle();
     form.cmdGo.setVisible(false);
     EXPECT_TRUE(button.isHidden());
@@ -182,7 +222,7 @@ TEST_F(Bindings, AnInvisibleControlIsNotToBeSeen) {
 
 TEST_F(Bindings, AControlThatIsInvisibleFromTheBeginningStaysUnseenWhenItsWindowIsShown) {
     form.cmdGo.setVisible(false);
-    auto& button = put<QPushButton>("cmdGo");
+    auto& button = put<Command>("cmdGo");
     window.show();
     EXPECT_FALSE(button.isVisible());
 }
@@ -304,11 +344,11 @@ TEST_F(Bindings, AFrameTellsItsControlWhereItIs) {
 }
 
 TEST_F(Bindings, TwoWidgetsMayShowOneControl) {
-    auto& one = put<QLabel>("lblState");
-    auto& two = put<QLabel>("lblState");
+    auto& one = put<ShadowLabel>("lblState");
+    auto& two = put<ShadowLabel>("lblState");
     form.lblState.setCaption("busy");
-    EXPECT_EQ(one.text(), "busy");
-    EXPECT_EQ(two.text(), "busy");
+    EXPECT_EQ(one.caption(), "busy");
+    EXPECT_EQ(two.caption(), "busy");
 }
 
 TEST_F(Bindings, ADeedOnItsWayOutlivesItsWidget) {
@@ -320,7 +360,7 @@ TEST_F(Bindings, ADeedOnItsWayOutlivesItsWidget) {
 }
 
 TEST_F(Bindings, AWidgetCarriesItsControlsName) {
-    EXPECT_EQ(put<QPushButton>("cmdGo").objectName(), "cmdGo");
+    EXPECT_EQ(put<Command>("cmdGo").objectName(), "cmdGo");
 }
 
 TEST_F(Bindings, ANameThatTheFormDoesNotHaveIsAnError) {

@@ -1,5 +1,4 @@
 // A window and its form: shown, closed, active, focus, place.
-#include <QPushButton>
 
 #include "desktop/window_bench.h"
 
@@ -56,7 +55,7 @@ TEST_F(WindowOfAForm, GoesWhereTheFormIsMoved) {
 
 TEST_F(WindowOfAForm, GivesTheFocusToTheFormWhenTheOperatorTabs) {
     auto& name = put<QLineEdit>("txtName");
-    auto& go = put<QPushButton>("cmdGo");
+    auto& go = put<Command>("cmdGo");
     activate();
     ASSERT_TRUE(name.hasFocus());
     QTest::keyClick(&name, Qt::Key_Tab);
@@ -68,7 +67,7 @@ TEST_F(WindowOfAForm, GivesTheFocusToTheFormWhenTheOperatorTabs) {
 
 TEST_F(WindowOfAForm, FollowsAFormThatKeepsTheFocus) {
     auto& name = put<QLineEdit>("txtName");
-    put<QPushButton>("cmdGo");
+    put<Command>("cmdGo");
     activate();
     form.moveFocus(form.txtName);
     form.txtName.onLostFocus = [this] { form.stayFocused(); };
@@ -79,7 +78,7 @@ TEST_F(WindowOfAForm, FollowsAFormThatKeepsTheFocus) {
 
 TEST_F(WindowOfAForm, SaysNothingOfAFocusThatMovesBecauseAWidgetWasDisabled) {
     auto& name = put<QLineEdit>("txtName");
-    auto& go = put<QPushButton>("cmdGo");
+    auto& go = put<Command>("cmdGo");
     activate();
     form.moveFocus(form.txtName);
     settle();
@@ -91,7 +90,7 @@ TEST_F(WindowOfAForm, SaysNothingOfAFocusThatMovesBecauseAWidgetWasDisabled) {
 
 TEST_F(WindowOfAForm, SaysNothingOfAFocusThatMovesBecauseAWidgetWasHidden) {
     auto& name = put<QLineEdit>("txtName");
-    auto& go = put<QPushButton>("cmdGo");
+    auto& go = put<Command>("cmdGo");
     activate();
     ASSERT_TRUE(name.hasFocus());
     form.txtName.setVisible(false);
@@ -100,7 +99,7 @@ TEST_F(WindowOfAForm, SaysNothingOfAFocusThatMovesBecauseAWidgetWasHidden) {
 }
 
 TEST_F(WindowOfAForm, TabGoesInTheFormsOrder) {
-    auto& go = put<QPushButton>("cmdGo");
+    auto& go = put<Command>("cmdGo");
     auto& name = put<QLineEdit>("txtName");
     controls.orderTabs();
     activate();

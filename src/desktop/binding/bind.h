@@ -14,16 +14,20 @@
 
 #include "base/controls.h"
 #include "desktop/operator_acts.h"
+#include "desktop/widgets/command.h"
 #include "desktop/widgets/picture_view.h"
+#include "desktop/widgets/shadow_label.h"
 
 namespace quorrin {
 
 // A box that takes any text gives each edit on at once; one for numbers gives it on when the operator
 // finishes it (Enter, or leaving the box), and takes a text that is not allowed, or that Escape ends, back.
 void bind(QLineEdit& widget, TextBox& control, const OperatorActs& acts);
+void bind(ShadowLabel& widget, Label& control, const OperatorActs& acts);
 void bind(QLabel& widget, Label& control, const OperatorActs& acts);
 // A label that is clicked on, as a link.
 void bindLink(QAbstractButton& widget, Label& control, const OperatorActs& acts);
+void bind(Command& widget, CommandButton& control, const OperatorActs& acts);
 void bind(QAbstractButton& widget, CommandButton& control, const OperatorActs& acts);
 void bind(QCheckBox& widget, CheckBox& control, const OperatorActs& acts);
 void bind(QRadioButton& widget, OptionButton& control, const OperatorActs& acts);

@@ -32,6 +32,31 @@ class ButtonBinding : public Binding {
     CommandButton& control_;
 };
 
+class CommandBinding : public Binding {
+  public:
+    CommandBinding(Command& widget, CommandButton& control, const OperatorActs& acts)
+        : Binding(widget, control, acts), widget_(widget), control_(control) {
+        widget.onPress = [this] {
+            if (control_.onMouseDown) act([&pressed = control_] { pressed.operatorPress(); });
+        };
+        widget.onRelease = [this] {
+            if (control_.onMouseUp) act([&released = control_] { released.operatorRelease(); });
+        };
+        widget.onClick = [this] { act([&clicked = control_] { clicked.operatorClick(); }); };
+        start();
+    }
+
+  protected:
+    void showValue() override {
+        const QString caption = QString::fromStdString(control_.caption());
+        if (widget_.caption() != caption) widget_.setCaption(caption);
+    }
+
+  private:
+    Command& widget_;
+    CommandButton& control_;
+};
+
 class CheckBinding : public Binding {
   public:
     CheckBinding(QCheckBox& widget, CheckBox& control, const OperatorActs& acts)
@@ -78,6 +103,10 @@ class OptionBinding : public Binding {
 
 void bind(QAbstractButton& widget, CommandButton& control, const OperatorActs& acts) {
     new ButtonBinding(widget, control, acts);
+}
+
+void bind(Command& widget, CommandButton& control, const OperatorActs& acts) {
+    new CommandBinding(widget, control, acts);
 }
 
 void bind(QCheckBox& widget, CheckBox& control, const OperatorActs& acts) {

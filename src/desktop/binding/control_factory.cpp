@@ -1,6 +1,5 @@
 #include "desktop/binding/control_factory.h"
 
-#include <QPushButton>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QSlider>
@@ -57,8 +56,8 @@ QWidget* ControlFactory::operator()(const std::string& controlName) {
 
 QWidget* ControlFactory::make(Control& wanted) {
     if (auto* box = dynamic_cast<TextBox*>(&wanted)) return bound<QLineEdit>(*box, acts_);
-    if (auto* label = dynamic_cast<Label*>(&wanted)) return bound<QLabel>(*label, acts_);
-    if (auto* button = dynamic_cast<CommandButton*>(&wanted)) return bound<QPushButton>(*button, acts_);
+    if (auto* label = dynamic_cast<Label*>(&wanted)) return bound<ShadowLabel>(*label, acts_);
+    if (auto* button = dynamic_cast<CommandButton*>(&wanted)) return bound<Command>(*button, acts_);
     if (auto* check = dynamic_cast<CheckBox*>(&wanted)) return bound<QCheckBox>(*check, acts_);
     if (auto* option = dynamic_cast<OptionButton*>(&wanted)) return bound<QRadioButton>(*option, acts_);
     if (auto* slider = dynamic_cast<Slider*>(&wanted)) return bound<QSlider>(*slider, acts_, Qt::Horizontal);

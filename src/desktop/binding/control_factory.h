@@ -22,7 +22,7 @@ class ControlFactory {
     // `images` draws the pictures of the form's image list.
     ControlFactory(const OperatorActs& acts, Form& form, ImageList images = {});
 
-    // The usual widget of the control's kind: QLineEdit, QLabel, QPushButton, QCheckBox, QRadioButton,
+    // The usual widget of the control's kind: QLineEdit, ShadowLabel, Command, QCheckBox, QRadioButton,
     // QSlider (lying), QComboBox, QListWidget, PictureView, QGroupBox.
     QWidget* operator()(const std::string& controlName);
 

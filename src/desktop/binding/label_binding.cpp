@@ -24,6 +24,24 @@ class LabelBinding : public Binding {
     Label& control_;
 };
 
+class ShadowBinding : public Binding {
+  public:
+    ShadowBinding(ShadowLabel& widget, Label& control, const OperatorActs& acts)
+        : Binding(widget, control, acts), widget_(widget), control_(control) {
+        start();
+    }
+
+  protected:
+    void showValue() override {
+        const QString text = QString::fromStdString(control_.caption());
+        if (widget_.caption() != text) widget_.setCaption(text);
+    }
+
+  private:
+    ShadowLabel& widget_;
+    Label& control_;
+};
+
 class LinkBinding : public Binding {
   public:
     LinkBinding(QAbstractButton& widget, Label& control, const OperatorActs& acts)
@@ -48,6 +66,10 @@ class LinkBinding : public Binding {
 
 void bind(QLabel& widget, Label& control, const OperatorActs& acts) {
     new LabelBinding(widget, control, acts);
+}
+
+void bind(ShadowLabel& widget, Label& control, const OperatorActs& acts) {
+    new ShadowBinding(widget, control, acts);
 }
 
 void bindLink(QAbstractButton& widget, Label& control, const OperatorActs& acts) {
