@@ -2,6 +2,8 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include "console/control_words.h"
+#include "console/frm_login.h"
 #include "desktop/window_bench.h"
 
 namespace quorrin {
@@ -361,6 +363,33 @@ TEST_F(Bindings, ADeedOnItsWayOutlivesItsWidget) {
 
 TEST_F(Bindings, AWidgetCarriesItsControlsName) {
     EXPECT_EQ(put<Command>("cmdGo").objectName(), "cmdGo");
+}
+
+TEST_F(Bindings, AWidgetCarriesTheWordsOfItsControl) {
+    frmLogin login(clock);
+    ControlFactory factory(acts, login);
+    const std::unique_ptr<QWidget> port(factory("txtRobotPort"));
+    const ControlWords& words = controlWords("frmLogin", "txtRobotPort");
+    EXPECT_EQ(port->accessibleName().toStdString(), words.name);
+    EXPECT_EQ(port->toolTip().toStdString(), words.tip);
+}
+
+TEST_F(Bindings, AShortcutWorksAlsoWhenItsWidgetIsDressedTwice) {
+    frmLogin login(clock);
+    login.show();
+    int clicks = 0;
+    login.cmdCancel.onClick = [&] { ++clicks; };
+    QWidget top;
+    ControlFactory factory(acts, login);
+    QWidget* const cancel = factory("cmdCancel");
+    cancel->setParent(&top);
+    factory.dress(*cancel, login.cmdCancel);
+    top.show();
+    top.activateWindow();
+    settle();
+    QTest::keyClick(&top, Qt::Key_Escape);
+    settle();
+    EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(Bindings, ANameThatTheFormDoesNotHaveIsAnError) {

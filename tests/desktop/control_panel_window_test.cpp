@@ -210,7 +210,7 @@ TEST_F(PanelWindow, TheOperatorDrivesWithTheArrowKeys) {
     keyUp(Qt::Key_Up);
     EXPECT_EQ(values.gasLevel, 9000);
     EXPECT_EQ(widget<QScrollBar>("scrGas").value(), 9000);
-    EXPECT_EQ(widget<QLabel>("slbGasLevel").text(), "9000");
+    EXPECT_EQ(widget<ShadowLabel>("slbGasLevel").caption(), "9000");
     keyDown(Qt::Key_Left);
     // What auto-repeat sends while the key is held.
     for (int repeat = 0; repeat < 3; ++repeat) {

@@ -96,7 +96,8 @@ void ControlFactory::dress(QWidget& widget, Control& dressed) {
     widget.setObjectName(QString::fromStdString(dressed.name()));
     widget.setAccessibleName(QString::fromStdString(words.name));
     widget.setToolTip(QString::fromStdString(words.tip));
-    if (!words.shortcut.empty()) addShortcut(widget, dressed, words.shortcut);
+    const bool has = widget.findChild<QShortcut*>(QString(), Qt::FindDirectChildrenOnly) != nullptr;
+    if (!words.shortcut.empty() && !has) addShortcut(widget, dressed, words.shortcut);
     if (widget.focusPolicy() == Qt::NoFocus) return;
     focus_->add(widget, dressed);
     new Keeper(widget, focus_);

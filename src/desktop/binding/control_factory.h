@@ -32,7 +32,7 @@ class ControlFactory {
     // A box that the operator reads and does not type into.
     QLineEdit* readOut(const std::string& controlName);
 
-    // Dresses a widget that was bound by hand.
+    // Dresses a widget that was bound by hand, or one that can take the focus only by now.
     void dress(QWidget& widget, Control& control);
     // Tab goes in the form's order of definition; to be called when all widgets are in their window.
     void orderTabs() const { focus_->orderTabs(); }

@@ -98,7 +98,7 @@ QWidget* ControlPanelWindow::heading() {
     row->setContentsMargins(currentTheme().gap, 0, 0, 0);
     row->addWidget(title, 1);
     QWidget* const close = key("cmdClose", IconName::close);
-    constexpr int kSmallSide = 32;
+    constexpr int kSmallSide = 36;
     close->setFixedSize(kSmallSide, kSmallSide);
     row->addWidget(close);
     auto* const heading = new QWidget;
@@ -115,7 +115,7 @@ QWidget* ControlPanelWindow::driving() {
     all->addWidget(key("cmdGasDown", IconName::arrowDown), 3, 0, Qt::AlignHCenter);
     QWidget* const level = controls_("slbGasLevel");
     level->setMinimumWidth(level->fontMetrics().horizontalAdvance(QStringLiteral("-32768")));
-    if (auto* label = dynamic_cast<QLabel*>(level)) label->setAlignment(Qt::AlignCenter);
+    if (auto* label = dynamic_cast<ShadowLabel*>(level)) label->setAlignment(kAlignCentre);
     all->addWidget(level, 4, 0, Qt::AlignHCenter);
 
     auto* const wheel = new QVBoxLayout;
