@@ -10,6 +10,7 @@
 
 #include "console/floor_plan.h"
 #include "desktop/binding/twips.h"
+#include "desktop/theme/theme.h"
 #include "desktop/widgets/map_overview.h"
 #include "platform/host/posix_files.h"
 #include "platform/virtual/virtual_clock.h"
@@ -167,6 +168,22 @@ TEST_F(MapViewTest, TheArrowKeysMoveThePlan) {
     settle();
     EXPECT_EQ(form.HScroll1.value(), 301);
     EXPECT_EQ(form.VScroll1.value(), 1501);
+}
+
+TEST_F(MapViewTest, TheFocusedPlanWearsARing) {
+    const auto ring = [this] {
+        QWidget& scroller = *viewport().parentWidget();
+        return scroller.grab().toImage().pixelColor(viewport().pos() + QPoint(50, -1));
+    };
+    window.activateWindow();
+    settle();
+    viewport().setFocus();
+    settle();
+    EXPECT_EQ(ring(), currentTheme().focus);
+    bar("HScroll1").setFocusPolicy(Qt::StrongFocus);
+    bar("HScroll1").setFocus();
+    settle();
+    EXPECT_NE(ring(), currentTheme().focus);
 }
 
 TEST_F(MapViewTest, EverythingComesThroughTheOperatorsDoor) {

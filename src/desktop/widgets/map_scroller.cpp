@@ -1,14 +1,19 @@
 #include "desktop/widgets/map_scroller.h"
 
 #include <QEvent>
+#include <QPainter>
 #include <algorithm>
 
 #include "console/floor_plan.h"
 #include "desktop/binding/twips.h"
+#include "desktop/theme/theme.h"
 
 namespace quorrin {
 
 namespace {
+
+// Width of the focus ring and of the seam that is kept for it.
+constexpr int kRing = 2;
 
 int pixelsOrAll(std::int32_t twips) {
     return twips <= 0 ? QWIDGETSIZE_MAX : twips / kTwipsPerPixel;
@@ -41,9 +46,10 @@ QSize MapScroller::minimumSizeHint() const {
 void MapScroller::arrange() {
     const ViewportLimit limit = largestViewport(controls_);
     const QSize bars(down_->sizeHint().width(), across_->sizeHint().height());
-    const QSize room = (size() - bars).expandedTo(QSize(0, 0));
+    const QSize room = (size() - bars - QSize(2 * kRing, 2 * kRing)).expandedTo(QSize(0, 0));
     QRect place(QPoint(0, 0), room.boundedTo(QSize(pixelsOrAll(limit.width), pixelsOrAll(limit.height))));
-    place.moveTopLeft({(room.width() - place.width()) / 2, (room.height() - place.height()) / 2});
+    place.moveTopLeft(
+        {kRing + (room.width() - place.width()) / 2, kRing + (room.height() - place.height()) / 2});
     viewport_->setGeometry(place);
     across_->setGeometry(place.left(), place.bottom() + 1, place.width(), bars.height());
     down_->setGeometry(place.right() + 1, place.top(), bars.width(), place.height());
@@ -55,6 +61,14 @@ void MapScroller::tellViewport() {
     const QPoint corner = viewport_->mapTo(window(), QPoint(0, 0));
     const Area area = twips(QRect(corner, viewport_->size()));
     if (area != controls_.Frame1.area()) viewportResized(controls_, area);
+}
+
+void MapScroller::paintEvent(QPaintEvent*) {
+    if (!viewport_->hasFocus()) return;
+    const QRect block = viewport_->geometry() | across_->geometry() | down_->geometry();
+    QPainter painter(this);
+    painter.setPen(QPen(currentTheme().focus, kRing));
+    painter.drawRect(block.adjusted(-kRing / 2, -kRing / 2, kRing / 2, kRing / 2));
 }
 
 void MapScroller::resizeEvent(QResizeEvent*) {

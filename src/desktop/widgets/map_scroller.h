@@ -26,6 +26,9 @@ class MapViewport : public QWidget {
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    // The focus ring is drawn by the scroller, around viewport and bars.
+    void focusInEvent(QFocusEvent*) override;
+    void focusOutEvent(QFocusEvent*) override;
 
   private:
     // Turns a bar as the wheel would, once the deed has its turn.
@@ -49,6 +52,7 @@ class MapScroller : public QWidget {
     QSize minimumSizeHint() const override;
 
   protected:
+    void paintEvent(QPaintEvent*) override;
     void resizeEvent(QResizeEvent*) override;
     void showEvent(QShowEvent*) override;
     bool eventFilter(QObject* watched, QEvent* event) override;

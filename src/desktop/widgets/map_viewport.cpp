@@ -84,4 +84,12 @@ void MapViewport::keyPressEvent(QKeyEvent* event) {
     }
 }
 
+void MapViewport::focusInEvent(QFocusEvent*) {
+    parentWidget()->update();
+}
+
+void MapViewport::focusOutEvent(QFocusEvent*) {
+    parentWidget()->update();
+}
+
 }  // namespace quorrin
