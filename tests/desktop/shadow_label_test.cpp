@@ -144,6 +144,28 @@ TEST(ShadowLabelWidget, AlignmentPutsTheTextLeftRightOrInTheMiddle) {
     EXPECT_NEAR(centre.center().x(), 100, 4);
 }
 
+TEST(ShadowLabelWidget, ALineThatIsTooLongShowsItsEndOnTheRightAndItsMiddleInTheMiddle) {
+    ShadowLabel label("....................MMMMMMMM....................");
+    label.setWordWrap(false);
+    label.resize(40, 24);
+    const QRect left = drawnArea(pictureOf(label));
+    label.setAlignment(kAlignRight);
+    const QRect right = drawnArea(pictureOf(label));
+    label.setAlignment(kAlignCentre);
+    const QRect centre = drawnArea(pictureOf(label));
+    // Dots at both ends, tall letters between them.
+    EXPECT_EQ(left.height(), right.height());
+    EXPECT_GT(centre.height(), left.height());
+}
+
+TEST(ShadowLabelWidget, ALineBreakInTheCaptionIsOneOnlyWhereItMayWrap) {
+    ShadowLabel label("Robot\nX");
+    label.resize(120, 80);
+    const int two = drawnArea(pictureOf(label)).height();
+    label.setWordWrap(false);
+    EXPECT_LT(drawnArea(pictureOf(label)).height(), two);
+}
+
 TEST(ShadowLabelWidget, TheShadowLiesRightAndBelowOfTheText) {
     ShadowLabel label("HHHH");
     label.resize(100, 24);

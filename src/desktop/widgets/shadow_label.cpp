@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QPainter>
+#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -128,21 +129,47 @@ int ShadowLabel::heightForWidth(int width) const {
     return labelSize(measured(std::max(1, width - kShadowReach))).height;
 }
 
+// The lines are found once; each of the draws only puts them elsewhere.
+void ShadowLabel::layOut(QTextLayout& lines, int width) const {
+    const Qt::Alignment side = Qt::Alignment(textFlags()) & Qt::AlignHorizontal_Mask;
+    QTextOption option(side);
+    option.setWrapMode(properties_.wordWrap ? QTextOption::WordWrap : QTextOption::NoWrap);
+    lines.setTextOption(option);
+    double y = 0;
+    lines.beginLayout();
+    for (QTextLine line = lines.createLine(); line.isValid(); line = lines.createLine()) {
+        double x = 0;
+        line.setLineWidth(width);
+        if (!properties_.wordWrap) {
+            // A line that is too long sticks out on the side that its alignment leaves.
+            const double natural = std::ceil(line.naturalTextWidth());
+            line.setLineWidth(natural);
+            x = side == Qt::AlignRight     ? width - natural
+                : side == Qt::AlignHCenter ? (width - natural) / 2
+                                           : 0;
+        }
+        line.setPosition({std::floor(x), y});
+        y += line.height();
+    }
+    lines.endLayout();
+}
+
 QImage ShadowLabel::drawnText(double ratio) const {
     QImage picture(static_cast<int>(std::ceil(width() * ratio)),
                    static_cast<int>(std::ceil(height() * ratio)), QImage::Format_ARGB32_Premultiplied);
     picture.setDevicePixelRatio(ratio);
     const LabelDrawing list = drawing();
     picture.fill(list.filled ? windowColour(list.ground) : QColor(Qt::transparent));
+    if (list.draws.empty()) return picture;
+    QString text = caption();
+    text.replace('\n', properties_.wordWrap ? QChar(QChar::LineSeparator) : QChar(' '));
+    QTextLayout lines(text, font());
+    layOut(lines, list.draws.front().rectangle.width);
     QPainter painter(&picture);
-    painter.setFont(font());
-    const QString text = caption();
     for (const TextDraw& draw : list.draws) {
         painter.setPen(windowColour(draw.colour));
         // The picture's edge is the control's: what goes beyond is cut there, not at the text's rectangle.
-        painter.drawText(
-            QRect(draw.rectangle.left, draw.rectangle.top, draw.rectangle.width, draw.rectangle.height),
-            textFlags() | Qt::TextDontClip, text);
+        lines.draw(&painter, QPointF(draw.rectangle.left, draw.rectangle.top));
     }
     return picture;
 }

@@ -11,6 +11,8 @@
 
 #include "console/shadow_label_model.h"
 
+class QTextLayout;
+
 namespace quorrin {
 
 class ShadowLabel : public QWidget {
@@ -49,6 +51,7 @@ class ShadowLabel : public QWidget {
     FaceSize measured(int width) const;
     int textFlags() const;
     LabelDrawing drawing() const;
+    void layOut(QTextLayout& lines, int width) const;
     QImage drawnText(double devicePixelRatio) const;
 
     ShadowLabelProperties properties_;
