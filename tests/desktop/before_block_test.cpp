@@ -47,6 +47,15 @@ TEST_F(BeforeABlock, ALongerTextGetsItsRoomFirst) {
     EXPECT_GT(label->sizeHint().width(), before);
 }
 
+TEST_F(BeforeABlock, WhatWasJustShownIsPainted) {
+    auto* const sign = new PaintedLabel(QStringLiteral("closing"), &window);
+    sign->hide();
+    settle();
+    sign->show();
+    clock.block(1000);
+    EXPECT_EQ(sign->painted, "closing");
+}
+
 TEST_F(BeforeABlock, WhatIsNotDirtyIsNotPainted) {
     clock.block(1000);
     label->painted = "untouched";
