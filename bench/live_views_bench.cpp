@@ -37,9 +37,7 @@ double medianSeconds(int times, Prepare prepare, Work work) {
 int run(QApplication& application) {
     applyTheme(application, lightTheme());
     ClosedLoop loop(shippedSite("office"));
-    const LiveSource source{loop.station->values, loop.station->gui,
-                            [&loop] { return loop.station->navigator(); }, loop.clock};
-    LiveViews views(source);
+    LiveViews views(liveSource(*loop.station, loop.clock));
     views.resize(1240, 720);
     views.show();
     if (!loop.runUntilMode("wondering", 20)) return 1;

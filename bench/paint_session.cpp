@@ -9,6 +9,8 @@
 
 #include "apps/real_station.h"
 #include "base/program_error.h"
+#include "desktop/operator_acts.h"
+#include "desktop/station_windows.h"
 #include "desktop/theme/theme.h"
 #include "desktop/views/live_views.h"
 #include "paint_meter.h"
@@ -33,7 +35,7 @@ class PaintSession {
         real_.firstStart();
         look_.setInterval(kLookMs);
         look_.setEnabled(true);
-        real_.time.setBeforeBlock([] { QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest); });
+        real_.time.setBeforeBlock([this] { windows_.beforeBlock(); });
         real_.beginSession(station_);
         tick_.began();
         real_.time.post([this] {
@@ -62,17 +64,26 @@ class PaintSession {
             return;
         }
         if (passed - openedAt_ < seconds_) return;
-        viewsRan_ = views_.panel().running();
+        viewsRan_ = views_->panel().running();
         tick_.measuring = application_.measuring = false;
         look_.setEnabled(false);
         real_.time.post([this] { station_.gui.cmdExit.operatorClick(); });
     }
 
+    // The engineering panel as the operator has it, and its live views whole, in their own window.
     void open() {
         openedAt_ = watch_.seconds();
         tick_.measuring = application_.measuring = true;
-        views_.resize(1240, 720);
-        views_.show();
+        station_.gui.fraSensor.setVisible(true);
+        for (QWidget* widget : QApplication::allWidgets())
+            if (auto* const views = dynamic_cast<LiveViews*>(widget)) views_ = views;
+        if (views_ == nullptr) {
+            beside_ = std::make_unique<LiveViews>(liveSource(station_, real_.time));
+            views_ = beside_.get();
+            views_->show();
+        }
+        views_->detach();
+        views_->ownWindow()->resize(1240, 720);
     }
 
     int report() const {
@@ -110,7 +121,9 @@ class PaintSession {
     TickMeter tick_{real_.myRobot, real_.recorder, real_.time, real_.clock};
     Station station_{{real_.time, real_.files, real_.programs, boxes_, tick_, real_.recordedRobotTI,
                       real_.host.folders, [] { throw ProgramEnd{}; }}};
-    LiveViews views_{{station_.values, station_.gui, [this] { return station_.navigator(); }, real_.time}};
+    StationWindows windows_{station_, OperatorActs(real_.time)};
+    std::unique_ptr<LiveViews> beside_;  // where the panel has none
+    LiveViews* views_ = nullptr;
     TimerMM look_{real_.clock, [this] { look(); }};
     double openedAt_ = 0;
     bool viewsRan_ = false;

@@ -25,6 +25,8 @@ class OperatorActs {
     }
     // How many deeds have not had their turn yet.
     int underWay() const { return *underWay_; }
+    // The session's time, for whoever draws it.
+    const Clock& clock() const { return clock_; }
 
   private:
     Clock& clock_;

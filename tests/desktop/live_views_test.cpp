@@ -37,8 +37,7 @@ class LiveViewsTest : public testing::Test {
     static void deliverQueued() { QCoreApplication::sendPostedEvents(); }
 
     ClosedLoop loop_;
-    LiveSource source_{loop_.station->values, loop_.station->gui,
-                       [this] { return loop_.station->navigator(); }, loop_.clock};
+    LiveSource source_ = liveSource(*loop_.station, loop_.clock);
 };
 
 TEST_F(LiveViewsTest, RunNoTimerBeforeTheyAreShown) {

@@ -1,5 +1,6 @@
 #include "desktop/views/grid_marks.h"
 
+#include <QPaintDevice>
 #include <cmath>
 
 namespace quorrin {
@@ -15,6 +16,10 @@ QPointF across(QPointF along) {
     return {-along.y(), along.x()};
 }
 
+double thin(const QPainter& painter) {
+    return thinLine(painter.device()->devicePixelRatioF());
+}
+
 QPointF unit(QPointF along) {
     const double length = std::hypot(along.x(), along.y());
     return length > 0 ? along / length : QPointF(0, -1);
@@ -26,7 +31,7 @@ void drawRay(QPainter& painter, const ViewColours& colours, RayKind kind, QPoint
              bool obstacle) {
     const bool infrared = kind == RayKind::infrared;
     const QColor& colour = infrared ? colours.infrared : colours.sonar;
-    painter.setPen(QPen(colour, 0, infrared ? Qt::SolidLine : Qt::DashLine));
+    painter.setPen(QPen(colour, thin(painter), infrared ? Qt::SolidLine : Qt::DashLine));
     painter.drawLine(from, to);
     if (!obstacle) return;
     painter.setPen(QPen(colour, 1.5));
@@ -49,7 +54,7 @@ void drawSector(QPainter& painter, const ViewColours& colours, const QPolygonF& 
 }
 
 void drawLimit(QPainter& painter, const ViewColours& colours, const QPolygonF& line) {
-    painter.setPen(QPen(colours.ink, 0, Qt::DotLine));
+    painter.setPen(QPen(colours.ink, thin(painter), Qt::DotLine));
     painter.drawPolyline(line);
 }
 

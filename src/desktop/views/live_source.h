@@ -7,6 +7,7 @@
 #include "platform/clock.h"
 #include "session/record/navigation_controls.h"
 #include "session/record/public_values.h"
+#include "session/station.h"
 
 namespace quorrin {
 
@@ -18,5 +19,9 @@ struct LiveSource {
     // The session's time.
     const Clock& clock;
 };
+
+inline LiveSource liveSource(const Station& station, const Clock& clock) {
+    return {station.values, station.gui, [&station] { return station.navigator(); }, clock};
+}
 
 }  // namespace quorrin

@@ -146,7 +146,7 @@ void StripChartView::drawTrace(QPainter& painter, std::size_t trace, const Chart
     if (points_.empty()) return;
     const QRectF area = plot();
     const TraceWords& words = chart_.plan().traces[trace];
-    painter.setPen(QPen(colours_.traces[trace], 0, penStyle(words.line)));
+    painter.setPen(QPen(colours_.traces[trace], thinLine(devicePixelRatioF()), penStyle(words.line)));
     const auto draw = [&] {
         if (line_.size() == 1) painter.drawPoint(line_.first());
         if (line_.size() > 1) painter.drawPolyline(line_);

@@ -29,6 +29,12 @@ struct ViewColours {
 
 ViewColours viewColours(const QPalette& palette);
 
+// Width of a thin line: one dot, or one point where dots are so fine that a line of one would get lost. A pen
+// of width 0 is much cheaper than one of width 1.
+inline double thinLine(double dotsPerPoint) {
+    return dotsPerPoint < 1.4 ? 0 : 1;
+}
+
 QColor mixed(const QColor& from, const QColor& to, double share);
 
 }  // namespace quorrin
