@@ -119,8 +119,16 @@ class PaintSession {
     TerminalBoxes answered_{terminal_};
     RecordedBoxes boxes_{answered_, real_.recorder};
     TickMeter tick_{real_.myRobot, real_.recorder, real_.time, real_.clock};
-    Station station_{{real_.time, real_.files, real_.programs, boxes_, tick_, real_.recordedRobotTI,
-                      real_.host.folders, [] { throw ProgramEnd{}; }}};
+    Station station_{{real_.time,
+                      real_.files,
+                      real_.programs,
+                      boxes_,
+                      tick_,
+                      real_.recordedRobotTI,
+                      real_.host.folders,
+                      [] { throw ProgramEnd{}; },
+                      {},
+                      &real_.recordedSticks}};
     StationWindows windows_{station_, OperatorActs(real_.time)};
     std::unique_ptr<LiveViews> beside_;  // where the panel has none
     LiveViews* views_ = nullptr;
