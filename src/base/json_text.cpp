@@ -107,4 +107,13 @@ void appendText(std::string& out, std::string_view text) {
     out += '"';
 }
 
+void appendHex(std::string& out, std::string_view bytes) {
+    constexpr const char* digits = "0123456789abcdef";
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        out += digits[byte >> 4U];
+        out += digits[byte & 15U];
+    }
+}
+
 }  // namespace quorrin

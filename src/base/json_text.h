@@ -17,6 +17,9 @@ void appendBoolean(std::string& out, bool value);
 // In quotes, escaped.
 void appendText(std::string& out, std::string_view text);
 
+// Two lower-case hex digits for each byte, without quotes.
+void appendHex(std::string& out, std::string_view bytes);
+
 // Length in bytes of the UTF-8 character at the start of `text`, or 0 where there is none.
 std::size_t utf8CharacterLength(std::string_view text);
 

@@ -6,7 +6,13 @@ namespace quorrin {
 
 namespace {
 constexpr std::size_t kPieceBytes = 1024 * 1024;
+
+std::string hexOf(std::string_view bytes) {
+    std::string hex;
+    appendHex(hex, bytes);
+    return hex;
 }
+}  // namespace
 
 void Output::begin() {
     lineStart_ = buffer_.size();
@@ -31,6 +37,18 @@ void Output::addWhole(std::string_view key, std::int64_t value) {
 
 void Output::addBoolean(std::string_view key, bool value) {
     appendBoolean(addRaw(key), value);
+}
+
+void Output::addBytes(std::string_view bytes) {
+    constexpr std::size_t kWholeBytes = 256;
+    constexpr std::size_t kEndBytes = 16;
+    if (bytes.size() <= kWholeBytes) {
+        addText("hex", hexOf(bytes));
+        return;
+    }
+    addWhole("bytes", static_cast<std::int64_t>(bytes.size()));
+    addText("head", hexOf(bytes.substr(0, kEndBytes)));
+    addText("tail", hexOf(bytes.substr(bytes.size() - kEndBytes)));
 }
 
 void Output::end() {

@@ -27,6 +27,8 @@ class Output {
     void addText(std::string_view key, std::string_view value);
     void addWhole(std::string_view key, std::int64_t value);
     void addBoolean(std::string_view key, bool value);
+    // Bytes as "hex"; more than 256 of them as their number and the 16 at each end.
+    void addBytes(std::string_view bytes);
     // Appends `, "key": ` and returns the buffer, for a value of the caller's own making.
     std::string& addRaw(std::string_view key);
     // Ends such a value.

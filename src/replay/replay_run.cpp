@@ -8,6 +8,7 @@
 #include "base/program_error.h"
 #include "replay/joystick_line.h"
 #include "replay/script_parser.h"
+#include "replay/socket_printer.h"
 
 namespace quorrin {
 
@@ -34,6 +35,8 @@ ReplayRun::ReplayRun(const ReplaySetup& setup, LineReader& script, std::FILE* ou
       script_(script),
       clock_(setup.wallAtZero),
       output_(clock_, out),
+      sockets_(clock_),
+      wave_(output_),
       myRobot_(LinkName::myRobot, output_, setup.files, setup.folders.application),
       robotTI_(LinkName::robotTI, output_, setup.files, setup.folders.application),
       station_(ports()),
@@ -49,6 +52,12 @@ ReplayRun::ReplayRun(const ReplaySetup& setup, LineReader& script, std::FILE* ou
         output_.stop();
         robot_->observe(station_);
     }
+    printPrograms();
+    printBoxes();
+    printSockets(sockets_, output_);
+}
+
+void ReplayRun::printPrograms() {
     programs_.onStart = [this](const std::string& name) {
         output_.begin();
         output_.addText("start", name);
@@ -62,6 +71,9 @@ ReplayRun::ReplayRun(const ReplaySetup& setup, LineReader& script, std::FILE* ou
         output_.end();
         if (robot_ && found) robot_->windowClosed(title);
     };
+}
+
+void ReplayRun::printBoxes() {
     boxes_.onShow = [this](const std::string& text, const std::string& title, BoxAnswer answer) {
         output_.begin();
         output_.addText("box", text);
@@ -82,7 +94,9 @@ StationPorts ReplayRun::ports() {
             setup_.folders,
             [] { throw ProgramEnd{}; },
             {},
-            &sticks_};
+            &sticks_,
+            &sockets_,
+            &wave_};
 }
 
 ReplayRun::~ReplayRun() {
@@ -168,17 +182,19 @@ bool ReplayRun::readLine() {
 }
 
 void ReplayRun::enqueue() {
-    EventSource* source = nullptr;
-    if (!next_.broken) {
-        if (const auto* frame = std::get_if<FrameLine>(&next_.line.what)) {
-            source = &eventOf(*frame).source;
-        } else if (const auto* withFile = std::get_if<FrameFileLine>(&next_.line.what)) {
-            source = &eventOf(withFile->frame).source;
-        }
-    }
     waiting_ = true;
     clock_.arriveAt(
-        next_.line.timeMs, [this] { deliver(); }, source);
+        next_.line.timeMs, [this] { deliver(); }, next_.broken ? nullptr : sourceOf(next_.line));
+}
+
+// The handler that the line will run, which may be running when the line is due.
+EventSource* ReplayRun::sourceOf(const ScriptLine& line) {
+    const auto& what = line.what;
+    if (const auto* frame = std::get_if<FrameLine>(&what)) return &eventOf(*frame).source;
+    if (const auto* withFile = std::get_if<FrameFileLine>(&what)) return &eventOf(withFile->frame).source;
+    if (const auto* call = std::get_if<ConnectLine>(&what)) return &sockets_.source(call->array);
+    if (const auto* socket = std::get_if<SocketLine>(&what)) return &sockets_.source(socket->array);
+    return nullptr;
 }
 
 void ReplayRun::feed() {
@@ -227,6 +243,10 @@ void ReplayRun::perform(const ScriptLine& line) {
         prepareAnswer(answer->answer);
     } else if (const auto* stick = std::get_if<JoystickLine>(&what)) {
         moveStick(*stick, number);
+    } else if (const auto* call = std::get_if<ConnectLine>(&what)) {
+        sockets_.connect(call->array, call->from, call->port);
+    } else if (const auto* socket = std::get_if<SocketLine>(&what)) {
+        perform(*socket);
     } else if (const auto* watch = std::get_if<WatchLine>(&what)) {
         watch_.emplace(clock_, output_, fields_, *watch, number);
     }
@@ -250,6 +270,17 @@ void ReplayRun::raiseWithFile(const FrameFileLine& line, std::int64_t number) {
         link.setSound(line.soundFile.empty() ? line.soundBytes : readNamedFile(line.soundFile, number));
     }
     raise(line.frame);
+}
+
+void ReplayRun::perform(const SocketLine& line) {
+    switch (line.what) {
+        case SocketLine::What::receive:
+            return sockets_.receive(line.array, line.element, line.bytes);
+        case SocketLine::What::hangup:
+            return sockets_.hangUp(line.array, line.element);
+        case SocketLine::What::socketError:
+            return sockets_.fail(line.array, line.element);
+    }
 }
 
 void ReplayRun::prepareAnswer(const std::string& answer) {

@@ -21,12 +21,14 @@
 #include "platform/virtual/scripted_joysticks.h"
 #include "platform/virtual/scripted_programs.h"
 #include "platform/virtual/virtual_clock.h"
+#include "platform/virtual/virtual_sockets.h"
 #include "replay/line_reader.h"
 #include "replay/operator_actions.h"
 #include "replay/output.h"
 #include "replay/robot_world.h"
 #include "replay/script_error.h"
 #include "replay/scripted_link.h"
+#include "replay/scripted_wave.h"
 #include "replay/station_fields.h"
 #include "replay/watch.h"
 #include "session/station.h"
@@ -78,6 +80,9 @@ class ReplayRun {
     };
 
     StationPorts ports();
+    void printPrograms();
+    void printBoxes();
+    EventSource* sourceOf(const ScriptLine& line);
     void play();
     bool lineIsDue() const { return waiting_ && (!robot_ || next_.line.timeMs <= setup_.robotMs); }
     bool readLine();
@@ -89,6 +94,7 @@ class ReplayRun {
     void raise(const FrameLine& line);
     void raiseWithFile(const FrameFileLine& line, std::int64_t number);
     void prepareAnswer(const std::string& answer);
+    void perform(const SocketLine& line);
     ScriptedLink& linkOf(const FrameLine& line);
     LinkEvent& eventOf(const FrameLine& line);
     std::string readNamedFile(const std::string& path, std::int64_t number);
@@ -101,6 +107,8 @@ class ReplayRun {
     ScriptedBoxes boxes_;
     ScriptedJoysticks sticks_;
     int stickButtons_ = 0;  // 0: the script moves no stick
+    VirtualSockets sockets_;
+    ScriptedWave wave_;
     ScriptedLink myRobot_;
     ScriptedLink robotTI_;
     std::optional<RobotWorld> robot_;

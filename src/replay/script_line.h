@@ -77,6 +77,20 @@ struct WatchLine {
     std::vector<std::string> names;
     std::int64_t everyMs = 0;
 };
+// A client asks to connect to a socket array.
+struct ConnectLine {
+    std::string array;
+    std::string from;
+    int port = 0;
+};
+// What happens on one element of a socket array.
+struct SocketLine {
+    enum class What { receive, hangup, socketError };
+    What what = What::receive;
+    std::string array;
+    int element = 0;
+    std::string bytes;
+};
 // Only as the first line, at 0.
 struct LoginLine {};
 
@@ -84,7 +98,7 @@ struct ScriptLine {
     std::int64_t number = 0;  // in the file, from 1
     std::int64_t timeMs = 0;
     std::variant<FrameLine, FrameFileLine, ClickLine, PressLine, SetLine, KeyLine, FocusLine, AnswerLine,
-                 JoystickLine, UnloadLine, ActivateLine, WatchLine, LoginLine>
+                 JoystickLine, UnloadLine, ActivateLine, WatchLine, ConnectLine, SocketLine, LoginLine>
         what;
 };
 

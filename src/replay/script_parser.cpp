@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
+#include "remote/channels.h"
 #include "replay/frame_scanner.h"
 #include "replay/joystick_line.h"
 #include "replay/line_fields.h"
@@ -17,9 +18,10 @@ namespace {
 
 using Json = nlohmann::json;
 
+constexpr std::int64_t kLastPort = 65535;
+
 // Kinds of lines of rooms that the station does not have yet.
-constexpr const char* kNotBuilt[] = {"choose",      "connect",    "receive",    "hangup",
-                                     "socketError", "waveInDone", "waveOutDone"};
+constexpr const char* kNotBuilt[] = {"choose", "waveInDone", "waveOutDone"};
 
 Json parseObject(std::string_view text, std::int64_t number) {
     if (text.substr(0, 3) == "\xEF\xBB\xBF") throw ScriptError{number, "begins with a byte order mark"};
@@ -126,6 +128,40 @@ void parseJoystick(LineFields& fields, ScriptLine& line) {
     line.what = joystickLine(fields);
 }
 
+std::string socketArray(LineFields& fields, const char* key) {
+    const std::string name = fields.text(key);
+    const bool known = std::any_of(kChannels.begin(), kChannels.end(),
+                                   [&](const Channel& channel) { return name == channel.name; });
+    if (!known) fields.fail("unknown socket array \"" + name + "\"");
+    return name;
+}
+
+void parseConnect(LineFields& fields, ScriptLine& line) {
+    const std::string array = socketArray(fields, "connect");
+    const std::string from = fields.text("from");
+    const std::int64_t port = fields.whole("port");
+    if (port < 0 || port > kLastPort) fields.fail("\"port\" must be from 0 to 65535");
+    line.what = ConnectLine{array, from, static_cast<int>(port)};
+}
+
+// An element that is not connected, or cannot be, is no fault of a line: nothing happens then.
+SocketLine socketLine(LineFields& fields, const char* kind, SocketLine::What what) {
+    const std::string array = socketArray(fields, kind);
+    const std::int64_t element = fields.whole("element");
+    return {what, array, static_cast<int>(std::clamp<std::int64_t>(element, -1, kLastPort)), ""};
+}
+
+void parseReceive(LineFields& fields, ScriptLine& line) {
+    SocketLine receive = socketLine(fields, "receive", SocketLine::What::receive);
+    if (fields.has("text") == fields.has("hex")) fields.fail("needs either \"text\" or \"hex\"");
+    const auto bytes =
+        fields.has("hex") ? bytesFromHex(fields.text("hex")) : oneByteEach(fields.text("text"));
+    if (!bytes && fields.has("hex")) fields.fail("\"hex\" is no even number of hex digits");
+    if (!bytes) fields.fail("\"text\" holds a character above U+00FF; give its bytes as \"hex\"");
+    receive.bytes = *bytes;
+    line.what = std::move(receive);
+}
+
 void parseLogin(LineFields& fields, ScriptLine& line) {
     if (!fields.boolean("login")) fields.fail("\"login\" must be true");
     line.what = LoginLine{};
@@ -159,6 +195,14 @@ constexpr Kind kKinds[] = {
     {"unload", parseUnload},
     {"activate", [](LineFields& f, ScriptLine& line) { line.what = ActivateLine{f.text("activate")}; }},
     {"watch", parseWatch},
+    {"connect", parseConnect},
+    {"receive", parseReceive},
+    {"hangup",
+     [](LineFields& f, ScriptLine& line) { line.what = socketLine(f, "hangup", SocketLine::What::hangup); }},
+    {"socketError",
+     [](LineFields& f, ScriptLine& line) {
+         line.what = socketLine(f, "socketError", SocketLine::What::socketError);
+     }},
     {"login", parseLogin},
 };
 
@@ -211,6 +255,22 @@ std::optional<std::string> bytesFromHex(std::string_view hex) {
         const int low = digit(hex[i + 1]);
         if (high < 0 || low < 0) return std::nullopt;
         bytes += static_cast<char>(high * 16 + low);
+    }
+    return bytes;
+}
+
+std::optional<std::string> oneByteEach(std::string_view utf8) {
+    std::string bytes;
+    for (std::size_t i = 0; i < utf8.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(utf8[i]);
+        if (byte < 0x80) {
+            bytes += utf8[i];
+        } else if ((byte == 0xC2 || byte == 0xC3) && i + 1 < utf8.size()) {
+            const auto low = static_cast<unsigned char>(utf8[++i]);
+            bytes += static_cast<char>((byte & 3U) << 6U | (low & 0x3FU));
+        } else {
+            return std::nullopt;
+        }
     }
     return bytes;
 }

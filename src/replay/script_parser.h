@@ -24,4 +24,7 @@ void parseScriptLine(std::string_view text, std::int64_t number, ScriptLine& lin
 // Bytes from pairs of hex digits, either case; empty where it is no such text.
 std::optional<std::string> bytesFromHex(std::string_view hex);
 
+// One byte for each character up to U+00FF; empty where there is another one.
+std::optional<std::string> oneByteEach(std::string_view utf8);
+
 }  // namespace quorrin

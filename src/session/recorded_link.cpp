@@ -15,15 +15,6 @@ void appendSonar(std::string& out, const std::array<Integer, 4>& sonarCm) {
     out += ']';
 }
 
-void appendHex(std::string& out, const std::string& bytes) {
-    constexpr const char* digits = "0123456789abcdef";
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        out += digits[byte >> 4U];
-        out += digits[byte & 15U];
-    }
-}
-
 // The frame with the properties in which it differs from the one before.
 std::string frameMembers(const char* frame, LinkName link, const LinkProperties& before,
                          const LinkProperties& now) {

@@ -1,11 +1,14 @@
 #include "session/station.h"
 
+#include <optional>
+
 #include "base/program_error.h"
 #include "console/login.h"
 #include "console/session_paths.h"
 #include "session/console_rooms.h"
 #include "session/end_task.h"
 #include "session/main_form.h"
+#include "session/remote_rooms.h"
 
 namespace quorrin {
 
@@ -23,11 +26,15 @@ struct Station::Parts {
                       [ports] {
                           if (ports.endProgram) ports.endProgram();
                           throw ProgramEnd{};
-                      }}) {}
+                      }}) {
+        if (ports.sockets != nullptr)
+            remote.emplace(ports, station.values, station.gui, station.controlPanel, station.seams);
+    }
 
     ConsoleRooms console;
     MainForm mainForm;
     Login loginLogic;
+    std::optional<RemoteRooms> remote;
 };
 
 Station::Station(const StationPorts& ports)
@@ -78,6 +85,10 @@ const AntiStuck* Station::antiStuck() const {
 
 ConsoleRooms& Station::console() {
     return parts_->console;
+}
+
+const RemoteConnections* Station::remote() const {
+    return parts_->remote ? &parts_->remote->connections() : nullptr;
 }
 
 }  // namespace quorrin

@@ -10,6 +10,8 @@
 #include "platform/joysticks.h"
 #include "platform/message_box.h"
 #include "platform/programs.h"
+#include "platform/sockets.h"
+#include "platform/wave_player.h"
 #include "robotlink/quorrin_sdk.h"
 
 namespace quorrin {
@@ -28,6 +30,9 @@ struct StationPorts {
     std::function<void(const std::string& address)> openWebPage = {};
     // Without it no joystick is ever found.
     Joysticks* joysticks = nullptr;
+    // Without sockets there is no remote access; without a player its ring is silent.
+    Sockets* sockets = nullptr;
+    WavePlayer* wavePlayer = nullptr;
 };
 
 }  // namespace quorrin

@@ -32,6 +32,11 @@ void stepStatusBroadcast(frmGUI& gui, const std::function<void(int, const std::s
     gui.statusBroadcastTicks = 0;
 }
 
+void reportChange(const frmGUI& gui, bool remoteCommandsSeen,
+                  const std::function<void(int, const std::string&)>& sendStatus) {
+    if (remoteCommandsSeen && gui.ConnectionList.count() > 0) broadcastStatus(gui, sendStatus);
+}
+
 void countChange(TextBox& txtChangeCount) {
     const double next = toDouble(txtChangeCount.text()) + 1;
     txtChangeCount.setText(next >= kChangeLimit ? "0" : formatShortest(next));

@@ -18,6 +18,11 @@ void broadcastStatus(const frmGUI& gui, const std::function<void(int, const std:
 // One tick of the periodic broadcast: every 51st tick.
 void stepStatusBroadcast(frmGUI& gui, const std::function<void(int, const std::string&)>& sendStatus);
 
+// The broadcast on a change of txtChangeCount: only once a command has been seen, and with somebody in the
+// list.
+void reportChange(const frmGUI& gui, bool remoteCommandsSeen,
+                  const std::function<void(int, const std::string&)>& sendStatus);
+
 // A change of a reported box: counts in txtChangeCount, which goes back to 0 where it would reach 32766.
 void countChange(TextBox& txtChangeCount);
 

@@ -8,6 +8,7 @@
 #include "platform/host/posix_programs.h"
 #include "platform/qt/qt_clock.h"
 #include "platform/qt/qt_streams.h"
+#include "replay/socket_printer.h"
 #include "robotlink/gateway_link.h"
 #include "session/flight_recorder.h"
 #include "session/recorded_link.h"
@@ -49,9 +50,19 @@ class RealRecordedSession : public testing::Test {
         PrintingPrograms programs(real, output);
         ScriptedBoxes inner;
         RecordedBoxes boxes(inner, recorder);
-        Station station(StationPorts{time, files, programs, boxes, myRobot, robotTI,
+        VirtualSockets sockets(time);
+        printSockets(sockets, output);
+        Station station(StationPorts{time,
+                                     files,
+                                     programs,
+                                     boxes,
+                                     myRobot,
+                                     robotTI,
                                      Folders{app, windows, voice, QUORRIN_BIN_DIR},
-                                     [] { throw ProgramEnd{}; }});
+                                     [] { throw ProgramEnd{}; },
+                                     {},
+                                     nullptr,
+                                     &sockets});
         for (Form* form : station.forms()) recorder.watchForm(*form, form == &station.gui);
         std::vector<std::unique_ptr<TimerMM>> hands;
         const auto pressAt = [&](std::int64_t ms, CommandButton& button) {

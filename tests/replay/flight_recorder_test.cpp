@@ -7,8 +7,12 @@
 
 #include "platform/host/posix_files.h"
 #include "platform/virtual/memory_append_file.h"
+#include "remote/frame_codec.h"
+#include "replay/scripted_wave.h"
+#include "replay/socket_printer.h"
 #include "robot/direct_link.h"
 #include "session/recorded_link.h"
+#include "session/recorded_sockets.h"
 #include "support/printing_link.h"
 #include "support/replay_script.h"
 
@@ -16,6 +20,7 @@ namespace quorrin {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 Site office() {
@@ -45,6 +50,14 @@ class RecordedSession {
             output.end();
             if (found) link.windowClosed(title);
         };
+        innerBoxes.onShow = [this](const std::string& text, const std::string& title, BoxAnswer answer) {
+            output.begin();
+            output.addText("box", text);
+            output.addText("title", title);
+            output.addText("answer", boxAnswerText(answer));
+            output.end();
+        };
+        printSockets(clients, output);
         for (Form* form : station.forms()) recorder.watchForm(*form, form == &station.gui);
         beBusy();
     }
@@ -60,6 +73,12 @@ class RecordedSession {
     }
     void operatorAt(std::int64_t hostMs, std::function<void(Station&)> action) {
         host.arriveAt(hostMs, [this, action] { clock.arrive([this, action] { action(station); }); });
+    }
+    void clientAt(std::int64_t hostMs, const std::string& array,
+                  std::function<void(VirtualSockets&)> action) {
+        host.arriveAt(hostMs, [this, array, action] {
+            clock.arrive([this, action] { action(clients); }, &clients.source(array));
+        });
     }
     // To the session's end or to that time.
     void run(std::int64_t hostMs) {
@@ -94,9 +113,21 @@ class RecordedSession {
     RecordedLink myRobot{printedMot, LinkName::myRobot, recorder};
     RecordedLink robotTI{printedTi, LinkName::robotTI, recorder};
     RecordedBoxes boxes{innerBoxes, recorder};
-    Station station{StationPorts{clock, runner.files, programs, boxes, myRobot, robotTI,
+    VirtualSockets clients{clock};
+    RecordedSockets sockets{clients, recorder};
+    ScriptedWave wave{output};
+    Station station{StationPorts{clock,
+                                 runner.files,
+                                 programs,
+                                 boxes,
+                                 myRobot,
+                                 robotTI,
                                  Folders{"/app", "/app/windows", "/app/tempVoice", "/programs"},
-                                 [] { throw ProgramEnd{}; }}};
+                                 [] { throw ProgramEnd{}; },
+                                 {},
+                                 nullptr,
+                                 &sockets,
+                                 &wave}};
     std::minstd_rand lateness;
 
   private:
@@ -151,6 +182,47 @@ TEST_P(FlightRecorderProof, ARecordedSessionReplaysToTheSameOperations) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, FlightRecorderProof, testing::Values(1, 2, 3, 4, 5, 6));
+
+TEST(FlightRecorder, ARemoteSessionReplaysWithItsClientsCallsBytesAndEnds) {
+    RecordedSession session(5);
+    session.begin();
+    const auto call = [&](std::int64_t ms, const std::string& array, int port) {
+        session.clientAt(ms, array, [array, port](VirtualSockets& s) { s.connect(array, "10.0.0.5", port); });
+    };
+    session.operatorAt(14'000, [&](Station& s) {
+        s.gui.chkRemote.operatorSet(false);
+        session.innerBoxes.prepareAnswer(BoxAnswer::no);
+        session.innerBoxes.prepareAnswer(BoxAnswer::yes);
+    });
+    call(15'000, "wskCommand", 40000);  // refused
+    call(16'003, "wskCommand", 40000);
+    call(16'004, "wskSensor", 40001);
+    call(16'005, "wskSendVoice", 40002);
+    session.clientAt(19'000, "wskCommand",
+                     [](VirtualSockets& s) { s.receive("wskCommand", 1, frameOf("PING")); });
+    for (int i = 0; i < 40; ++i) {
+        session.clientAt(20'000 + 250 * i, "wskCommand", [i](VirtualSockets& s) {
+            s.receive("wskCommand", 1, frameOf("5100,4000,9500,2000,2000,3000,1," + std::to_string(i)));
+        });
+    }
+    session.clientAt(31'000, "wskCommand",
+                     [](VirtualSockets& s) { s.receive("wskCommand", 1, frameOf("PING")); });
+    session.clientAt(32'000, "wskSensor", [](VirtualSockets& s) { s.receive("wskSensor", 1, "unread"); });
+    session.clientAt(33'000, "wskSensor", [](VirtualSockets& s) { s.fail("wskSensor", 1); });
+    session.clientAt(34'000, "wskCommand", [](VirtualSockets& s) { s.hangUp("wskCommand", 1); });
+    call(40'000, "wskCommand", 41000);
+    session.run(90'000);
+    const std::string recording = session.piece(1);
+    EXPECT_THAT(recording,
+                HasSubstr("\"connect\": \"wskCommand\", \"from\": \"10.0.0.5\", \"port\": 40000}"));
+    EXPECT_THAT(recording, HasSubstr("\"receive\": \"wskCommand\", \"element\": 1, \"hex\": \"5e02"));
+    EXPECT_THAT(recording, HasSubstr("\"socketError\": \"wskSensor\", \"element\": 1}"));
+    EXPECT_THAT(recording, HasSubstr("\"hangup\": \"wskCommand\", \"element\": 1}"));
+    EXPECT_THAT(recording, Not(HasSubstr("\"receive\": \"wskSensor\"")));
+    EXPECT_THAT(session.output.text(), HasSubstr("sndPlaySoundA"));
+    EXPECT_THAT(session.output.text(), HasSubstr("\"send\": \"wskSensor\", \"element\": 1"));
+    expectSameOperations(session, recording);
+}
 
 TEST(FlightRecorder, TheEndOfASessionReplaysToo) {
     RecordedSession session(9);

@@ -35,7 +35,8 @@ TEST(ReplayTranscripts, TheLoginHandsOverAndTheExitKeyEndsTheStation) {
               "{\"t\": 300, \"close\": \"Quorrin Gateway_Multimedia\", \"found\": false}\n" +
                   loadTranscript(300) +
                   "{\"t\": 1300, \"state\": {\"robotIp\": \"127.127.0.9\", \"robotPort\": \"10001\"}}\n"
-                  "{\"t\": 1350, \"link\": \"robotTI\", \"op\": \"StopSoundPlayback\", \"args\": []}\n"
+                  "{\"t\": 1350, \"link\": \"robotTI\", \"op\": \"StopSoundPlayback\", \"args\": []}\n" +
+                  listenersShut(1350) +
                   "{\"t\": 2350, \"close\": \"Quorrin Gateway_MotionControl\", \"found\": false}\n"
                   "{\"t\": 2350, \"close\": \"Quorrin Gateway_Multimedia\", \"found\": true}\n"
                   "{\"t\": 2350, \"ended\": true}\n");

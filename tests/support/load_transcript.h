@@ -19,7 +19,19 @@ inline std::string loadTranscript(int beginMs = 0) {
         text += loaded + "\"link\": \"myRobot\", \"op\": \"SuspendDrive\", \"args\": [0]}\n";
         text += loaded + "\"link\": \"myRobot\", \"op\": \"SuspendDrive\", \"args\": [1]}\n";
     }
+    for (const char* listener :
+         {"\"wskCommand\", \"port\": 7060", "\"wskVideo\", \"port\": 7080", "\"wskSensor\", \"port\": 7070",
+          "\"wskAudio\", \"port\": 7090", "\"wskTTS\", \"port\": 7050", "\"wskSendVoice\", \"port\": 7040"})
+        text += loaded + "\"listen\": " + listener + "}\n";
     return text + loaded + "\"link\": \"robotTI\", \"op\": \"StopSoundCapture\", \"args\": []}\n";
+}
+
+// What a replay prints as the station takes its listeners down.
+inline std::string listenersShut(int atMs) {
+    std::string text;
+    for (const char* array : {"wskCommand", "wskVideo", "wskAudio", "wskSensor", "wskTTS", "wskSendVoice"})
+        text += "{\"t\": " + std::to_string(atMs) + ", \"shut\": \"" + array + "\", \"element\": 0}\n";
+    return text;
 }
 
 }  // namespace quorrin

@@ -10,6 +10,8 @@ struct RemoteValues {
     bool remoteCommandActive = false;  // frames are arriving
     bool remoteListening = false;      // the client wants to hear the robot
     bool callAccepted = false;         // a call on the command port has been answered
+    Integer commandCount;              // the client's running counter
+    Integer lastCommandCount;          // the number in txtCommandCount when that last changed
 };
 
 struct CameraValues {
