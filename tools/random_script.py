@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes a random replay script: operators who click everything, odd frames, logins, closings, nonsense.
+"""Writes a random replay script: operators who click everything, odd frames, remote clients, logins, closings, nonsense.
 
 usage: tools/random_script.py NAMES SEED      NAMES: a file with what `quorrin-replay --names` printed
 
@@ -22,6 +22,8 @@ PROPERTIES = {
 }
 TEXTS = ["", "0", "1", "-1", "5000", "9001", "10000", "32767", "32768", "-32768", "65535", "1e400", "0.5", "abc", " 7 ",
          "127", "255", "256", "999", "1.2", "..", "10 ", "\u00fc\u673a", "x" * 200, "10001", "70000", "nan"]
+
+ARRAYS = ["wskCommand", "wskSensor", "wskVideo", "wskAudio", "wskSendVoice", "wskTTS"]
 
 
 def read_names(path):
@@ -126,10 +128,34 @@ class Writer:
             return {r.choice(["keyDown", "keyDown", "keyUp"]): key}
         return {r.choice(["press", "release"]): "frmControlPanel.cmdTurn" + r.choice(["Left", "Right"])}
 
+    def client(self):
+        """What a remote client does, well or badly."""
+        r = self.random
+        array = r.choice(ARRAYS[:1] * 4 + ARRAYS)
+        what = r.random()
+        if what < 0.25:
+            return {"connect": array, "from": r.choice(["10.0.0.5", "192.168.1.77", "fe80::1", ""]), "port": r.choice([0, 40000, 40001, 65535])}
+        element = r.choice([1, 1, 1, 2, 3, 0, 32, 33, -1])
+        if what < 0.9:
+            return {"receive": array, "element": element, **self.payload()}
+        return {r.choice(["hangup", "hangup", "socketError"]): array, "element": element}
+
+    def payload(self):
+        r = self.random
+        fields = [str(r.choice([0, 7, 10, 11, 2000, 5000, 9500, 10000, -50, 32767, 32768, "007", " 5", "x", ""])) for _ in range(r.choice([8, 8, 8, 6, 9, 1]))]
+        words = [r.choice(["Mode", "Clos", "Quit", "RLIS", "NLIS", "PING", "PINGPONG", "OKOK", "abc", "", "a^b", ",".join(fields), ",".join(fields)])
+                 for _ in range(r.choice([1, 1, 2, 3]))]
+        text = "".join("^\u0002" + word + "^\r" for word in words)
+        if r.random() < 0.2:
+            text = text[:r.randint(0, len(text))] + r.choice(["", "^", "\r", "\u0002", "\u00fc", "x" * 5000])
+        return {"text": text} if r.random() < 0.7 else {"hex": text.encode("latin-1").hex()}
+
     def nonsense(self):
         r = self.random
         return r.choice([{"click": "cmdNope"}, {"frame": "TailFrame"}, {"set": "txtTh1", "to": None},
-                         {"joystick": {"x": 1}}, {"frame": "IrFrame", "IrAdc1": 40000}, {}, {"t": -1, "click": "cmdStart"},
+                         {"joystick": {"x": 1}}, {"connect": "wskNope", "from": "a", "port": 1},
+                         {"receive": "wskCommand", "element": 1}, {"receive": "wskTTS", "element": 1, "text": "\u20ac"}, {"hangup": "wskCommand"},
+                         {"frame": "IrFrame", "IrAdc1": 40000}, {}, {"t": -1, "click": "cmdStart"},
                          {"watch": ["robotX"], "every": 0}, {"login": True}, {"keyDown": 256}])
 
     def text(self):
@@ -147,6 +173,8 @@ class Writer:
             self.t += r.choice([0, 0, 1, 20, 50, 100, 100, 100, 500, 3000 if r.random() < 0.1 else 100])
             if frames and r.random() < 0.85:
                 self.add(self.frame())
+            elif r.random() < 0.4:
+                self.add(self.client())
             else:
                 self.add(self.operator())
             if bad and r.random() < 0.01:

@@ -103,6 +103,41 @@ TEST(ScriptParser, ReadsTheOperatorsLines) {
     EXPECT_TRUE(std::holds_alternative<LoginLine>(parse(R"({"t": 0, "login": true})").what));
 }
 
+TEST(ScriptParser, ReadsWhatRemoteClientsDo) {
+    const ScriptLine call = parse(R"({"t": 1, "connect": "wskCommand", "from": "10.0.0.5", "port": 40000})");
+    EXPECT_EQ(std::get<ConnectLine>(call.what).array, "wskCommand");
+    EXPECT_EQ(std::get<ConnectLine>(call.what).from, "10.0.0.5");
+    EXPECT_EQ(std::get<ConnectLine>(call.what).port, 40000);
+    const auto socket = [](const char* text) { return std::get<SocketLine>(parse(text).what); };
+    const SocketLine text =
+        socket(R"({"t": 1, "receive": "wskTTS", "element": 3, "text": "^\u0002\u00e4\r"})");
+    EXPECT_EQ(text.what, SocketLine::What::receive);
+    EXPECT_EQ(text.array, "wskTTS");
+    EXPECT_EQ(text.element, 3);
+    EXPECT_EQ(text.bytes, "^\x02\xE4\r");
+    EXPECT_EQ(socket(R"({"t": 1, "receive": "wskTTS", "element": 3, "hex": "5E02fF"})").bytes, "^\x02\xFF");
+    EXPECT_EQ(socket(R"({"t": 1, "hangup": "wskVideo", "element": 1})").what, SocketLine::What::hangup);
+    EXPECT_EQ(socket(R"({"t": 1, "socketError": "wskVideo", "element": 99})").what,
+              SocketLine::What::socketError);
+}
+
+TEST(ScriptParser, RefusesBadLinesOfRemoteClients) {
+    EXPECT_EQ(reason(R"({"t": 1, "connect": "wskNope", "from": "a", "port": 1})"),
+              "unknown socket array \"wskNope\"");
+    EXPECT_EQ(reason(R"({"t": 1, "connect": "wskTTS", "from": "a", "port": 65536})"),
+              "\"port\" must be from 0 to 65535");
+    EXPECT_EQ(reason(R"({"t": 1, "connect": "wskTTS", "port": 1})"), "key \"from\" is missing");
+    EXPECT_EQ(reason(R"({"t": 1, "hangup": "wskTTS"})"), "key \"element\" is missing");
+    EXPECT_EQ(reason(R"({"t": 1, "receive": "wskTTS", "element": 1})"), "needs either \"text\" or \"hex\"");
+    EXPECT_EQ(reason(R"({"t": 1, "receive": "wskTTS", "element": 1, "text": "a", "hex": "00"})"),
+              "needs either \"text\" or \"hex\"");
+    EXPECT_EQ(reason(R"({"t": 1, "receive": "wskTTS", "element": 1, "hex": "0"})"),
+              "\"hex\" is no even number of hex digits");
+    EXPECT_EQ(reason(R"({"t": 1, "receive": "wskTTS", "element": 1, "text": "\u20ac"})"),
+              "\"text\" holds a character above U+00FF; give its bytes as \"hex\"");
+    EXPECT_EQ(reason(R"({"t": 1, "hangup": "wskTTS", "element": 1, "text": "a"})"), "unknown key \"text\"");
+}
+
 TEST(ScriptParser, RefusesWhatTheStationDoesNotHaveYetByName) {
     for (const std::string kind : {"choose", "waveInDone", "waveOutDone"}) {
         EXPECT_EQ(reason("{\"t\": 1, \"" + kind + "\": 0}"), "\"" + kind + "\" is not built yet");

@@ -14,8 +14,10 @@
 #include "platform/virtual/scripted_joysticks.h"
 #include "platform/virtual/scripted_programs.h"
 #include "platform/virtual/virtual_clock.h"
+#include "platform/virtual/virtual_sockets.h"
 #include "session/station.h"
 #include "support/fake_link.h"
+#include "support/fake_wave_player.h"
 
 namespace quorrin {
 
@@ -35,7 +37,8 @@ struct StationBench {
                        log.push_back("ended");
                        ended = true;
                    },
-                   [this](const std::string& address) { log.push_back("page " + address); }, &sticks}),
+                   [this](const std::string& address) { log.push_back("page " + address); }, &sticks,
+                   &sockets, &wave}),
           values(station.values),
           gui(station.gui) {
         files.createFolder("/app");
@@ -108,6 +111,9 @@ struct StationBench {
     ScriptedJoysticks sticks;  // none is attached
     FakeLink myRobot;
     FakeLink robotTI;
+    // Silent in the log; RemoteBench makes them tell.
+    VirtualSockets sockets{clock};
+    FakeWavePlayer wave;
     Station station;
     PublicValues& values;
     frmGUI& gui;
