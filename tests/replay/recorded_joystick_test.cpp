@@ -8,6 +8,7 @@
 
 #include "platform/host/posix_files.h"
 #include "platform/virtual/memory_append_file.h"
+#include "replay/socket_printer.h"
 #include "robot/direct_link.h"
 #include "session/recorded_link.h"
 #include "support/printing_link.h"
@@ -88,6 +89,7 @@ class StickSession {
     RecordedLink myRobot{printedMot, LinkName::myRobot, recorder};
     RecordedLink robotTI{printedTi, LinkName::robotTI, recorder};
     RecordedJoysticks recordedSticks{sticks, recorder};
+    VirtualSockets sockets{clock};
     Station station{[this] {
         StationPorts ports{clock,
                            runner.files,
@@ -98,6 +100,8 @@ class StickSession {
                            Folders{"/app", "/app/windows", "/app/tempVoice", "/programs"},
                            [] { throw ProgramEnd{}; }};
         ports.joysticks = &recordedSticks;
+        printSockets(sockets, output);
+        ports.sockets = &sockets;
         return ports;
     }()};
     JoystickState state;
