@@ -61,7 +61,8 @@ int runStation(RealStation& real, Terminal& terminal) {
                      real.host.folders,
                      [] { throw ProgramEnd{}; },
                      {},
-                     &real.recordedSticks});
+                     &real.recordedSticks,
+                     &real.recordedSockets});
     bool recording = true;
     TimerMM status(real.clock, [&] {
         if (recording && !real.recorder.complaint().empty()) {

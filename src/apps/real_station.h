@@ -13,6 +13,7 @@
 #include "platform/host/station_window.h"
 #include "platform/paced_clock.h"
 #include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_sockets.h"
 #include "platform/qt/qt_streams.h"
 #include "platform/qt/sdl_joysticks.h"
 #include "robotlink/gateway_link.h"
@@ -20,6 +21,7 @@
 #include "session/flight_recorder.h"
 #include "session/recorded_joysticks.h"
 #include "session/recorded_link.h"
+#include "session/recorded_sockets.h"
 #include "session/station.h"
 
 namespace quorrin {
@@ -37,11 +39,13 @@ struct RealStation {
     GatewayLink myRobot{time, streams, files};
     GatewayLink robotTI{time, streams, files};
     SdlJoysticks sticks{clock, time};
-    // What comes in, written down; the station uses links and joysticks through it.
+    // What comes in, written down; the station uses links, joysticks and sockets through it.
     FlightRecorder recorder{time, files, createPosixAppendFile, host.state};
     RecordedLink recordedMyRobot{myRobot, LinkName::myRobot, recorder};
     RecordedLink recordedRobotTI{robotTI, LinkName::robotTI, recorder};
     RecordedJoysticks recordedSticks{sticks, recorder};
+    QtSockets sockets{time};
+    RecordedSockets recordedSockets{sockets, recorder};
     // Goes first at the end: it waits for the gateways that were asked to close.
     PosixPrograms programs{host.run};
 
