@@ -8,6 +8,7 @@ namespace quorrin {
 namespace {
 
 constexpr int kUsualButtons = 12;
+constexpr int kMostButtons = 32767;  // a device may tell of more than a state has room for
 constexpr int kAxisEnd = 10000;
 constexpr int kLastDirection = 35999;
 
@@ -17,7 +18,7 @@ bool mayBeJoystick(std::string_view text) {
 }
 
 int buttonCount(LineFields& fields) {
-    return static_cast<int>(fields.wholeWithin("lButtons", 1, kJoystickButtons));
+    return static_cast<int>(fields.wholeWithin("lButtons", 0, kMostButtons));
 }
 
 }  // namespace
@@ -41,8 +42,8 @@ JoystickLine joystickLine(LineFields& fields) {
     return line;
 }
 
-int buttonsOfStick(LineReader& script) {
-    int buttons = 0;
+std::optional<int> buttonsOfStick(LineReader& script) {
+    std::optional<int> buttons;
     ScriptLine line;
     while (const auto text = script.next()) {
         if (isSkippedLine(*text) || !mayBeJoystick(*text)) continue;
@@ -53,7 +54,7 @@ int buttonsOfStick(LineReader& script) {
         }
         const auto* stick = std::get_if<JoystickLine>(&line.what);
         if (stick == nullptr) continue;
-        if (stick->buttons > 0) return stick->buttons;
+        if (stick->buttons) return stick->buttons;
         buttons = kUsualButtons;
     }
     return buttons;

@@ -130,7 +130,7 @@ ReplayEnd ReplayRun::run() {
 void ReplayRun::play() {
     stickButtons_ = buttonsOfStick(script_);
     script_.rewind();
-    if (stickButtons_ > 0) sticks_.attach(stickButtons_);
+    if (stickButtons_) sticks_.attach(*stickButtons_);
     const bool any = readLine();
     // The first line says whether the run begins at the login, so that one must be good.
     if (next_.broken) throw *next_.broken;
@@ -253,8 +253,8 @@ void ReplayRun::perform(const ScriptLine& line) {
 }
 
 void ReplayRun::moveStick(const JoystickLine& line, std::int64_t number) {
-    if (line.buttons > 0 && line.buttons != stickButtons_)
-        throw ScriptError{number, "the stick has " + std::to_string(stickButtons_) + " buttons"};
+    if (line.buttons && line.buttons != stickButtons_)
+        throw ScriptError{number, "the stick has " + std::to_string(stickButtons_.value_or(0)) + " buttons"};
     sticks_.move(line.state);
 }
 

@@ -106,7 +106,7 @@ class ReplayRun {
     ScriptedPrograms programs_;
     ScriptedBoxes boxes_;
     ScriptedJoysticks sticks_;
-    int stickButtons_ = 0;  // 0: the script moves no stick
+    std::optional<int> stickButtons_;  // none: the script moves no stick
     VirtualSockets sockets_;
     ScriptedWave wave_;
     ScriptedLink myRobot_;

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -65,7 +66,7 @@ struct AnswerLine {
 };
 struct JoystickLine {
     JoystickState state;
-    int buttons = 0;  // how many the stick has; 0 where the line does not say
+    std::optional<int> buttons;  // how many the stick has, where the line says
 };
 struct UnloadLine {
     std::string form;  // empty: the main form

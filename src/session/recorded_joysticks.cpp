@@ -13,8 +13,8 @@ void appendMember(std::string& out, const char* key, int value) {
     appendWhole(out, value);
 }
 
-// `buttons` 0 leaves the number of buttons out.
-std::string joystickMembers(const JoystickState& state, int buttons) {
+// Without `buttons` the number of buttons is left out.
+std::string joystickMembers(const JoystickState& state, std::optional<int> buttons) {
     std::string out = "\"joystick\": {";
     appendMember(out, "x", state.x);
     out += ", ";
@@ -32,9 +32,9 @@ std::string joystickMembers(const JoystickState& state, int buttons) {
         appendWhole(out, i);
     }
     out += ']';
-    if (buttons > 0) {
+    if (buttons) {
         out += ", ";
-        appendMember(out, "lButtons", buttons);
+        appendMember(out, "lButtons", *buttons);
     }
     return out + "}";
 }
@@ -90,7 +90,8 @@ std::unique_ptr<JoystickDevice> RecordedJoysticks::open(const std::string& ident
 
 void RecordedJoysticks::note(const JoystickState& state, int buttons) {
     if (written_ == state) return;
-    const std::string members = joystickMembers(state, written_ ? 0 : buttons);
+    const std::string members =
+        joystickMembers(state, written_ || buttons < 0 ? std::nullopt : std::optional(buttons));
     written_ = state;
     if (inEvent_) {
         recorder_.line(members);

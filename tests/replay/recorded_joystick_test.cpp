@@ -176,6 +176,19 @@ TEST(RecordedJoysticks, AStickThatRestsIsWrittenOnceSoThatTheReplayHasOneToo) {
     expectSame(session, 2000);
 }
 
+class StickSizes : public testing::TestWithParam<int> {};
+
+TEST_P(StickSizes, ReplayWithAsManyButtons) {
+    StickSession session;
+    session.sticks.attach(GetParam());
+    session.stickAt(2500, buttons({0, 6, 9, 31}));
+    session.run(3000);
+    EXPECT_EQ(session.station.gui.lButtons, GetParam());
+    expectSame(session, 3000);
+}
+
+INSTANTIATE_TEST_SUITE_P(Buttons, StickSizes, testing::Values(0, 6, 32, 40));
+
 TEST(RecordedJoysticks, AKeyThatIsHeldWhileTheFormLoadsStandsBeforeIt) {
     StickSession session;
     session.sticks.attach();

@@ -82,6 +82,15 @@ TEST(ReplayJoystick, TheNumberOfButtonsMayComeInALaterLine) {
         "{\"lButtons\": 6, \"joystickActive\": false}}");
 }
 
+TEST(ReplayJoystick, AStickMayHaveNoButtonOrMoreThanAStateHasRoomFor) {
+    const std::string state = R"("x": 5000, "y": 5000, "slider": 10000, "pov": -1, "buttons": [0, 6])";
+    const std::string names = "\"lButtons\", \"joystickRunning\", \"joystickActive\"";
+    EXPECT_EQ(valuesAfter(stick(1100, state + ", \"lButtons\": 0"), 1200, names),
+              "{\"lButtons\": 0, \"joystickRunning\": true, \"joystickActive\": false}}");
+    EXPECT_EQ(valuesAfter(stick(1100, state + ", \"lButtons\": 40"), 1200, names),
+              "{\"lButtons\": 40, \"joystickRunning\": true, \"joystickActive\": true}}");
+}
+
 TEST(ReplayJoystick, AnotherNumberOfButtonsIsRefused) {
     const std::string rest = R"("x": 5000, "y": 5000, "slider": 10000, "pov": -1, "buttons": [])";
     const ScriptOutcome outcome =
@@ -138,8 +147,8 @@ TEST(ReplayJoystick, ValuesThatNoStickHasAreRefused) {
     expectRefused(line("0", "0", "[-1]", ""), numbers);
     expectRefused(line("0", "0", "6", ""), numbers);
     expectRefused(line("0", "0", "[\"6\"]", ""), numbers);
-    expectRefused(line("0", "0", "[]", ", \"lButtons\": 0"), "\"lButtons\" must be from 1 to 32");
-    expectRefused(line("0", "0", "[]", ", \"lButtons\": 33"), "\"lButtons\" must be from 1 to 32");
+    expectRefused(line("0", "0", "[]", ", \"lButtons\": -1"), "\"lButtons\" must be from 0 to 32767");
+    expectRefused(line("0", "0", "[]", ", \"lButtons\": 32768"), "\"lButtons\" must be from 0 to 32767");
     expectRefused(line("0", "0", "[]", ", \"z\": 1"), "unknown key \"z\"");
     expectRefused(line("0", "0", "[]", ", \"x\": 1"), "has the key \"x\" twice");
     expectRefused("{\"t\": 1100, \"joystick\": true}\n", "\"joystick\" must be an object");
