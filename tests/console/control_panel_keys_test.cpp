@@ -162,8 +162,8 @@ TEST_F(ControlPanelKeys, WhatIsPendingRunsBeforeTheActionWhichIsReadAfterIt) {
     EXPECT_EQ(values.headCmdUpDown, 2200);
 }
 
-TEST_F(ControlPanelKeys, HundredsOfKeysAtOneInstantAllHaveTheirEffect) {
-    for (int i = 0; i < 1000; ++i) clock.arriveAt(10, [&] { key(kUp); });
+TEST_F(ControlPanelKeys, ManyThousandKeysAtOneInstantAllHaveTheirEffect) {
+    for (int i = 0; i < 50'000; ++i) clock.arriveAt(10, [&] { key(kUp); });
     clock.runFor(20);
     EXPECT_EQ(values.gasLevel, 0);
 }

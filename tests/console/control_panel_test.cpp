@@ -60,6 +60,13 @@ TEST_F(ControlPanelLife, ShowingThePanelTakesTheRobotWithoutGasOrBrake) {
     EXPECT_FALSE(values.joystickDriveLatch);
 }
 
+// A window system may tell of the activation late, or never.
+TEST_F(ControlPanelLife, TheKeyThatShowsThePanelSetsTheLevelsByItself) {
+    panel.onActivate = nullptr;
+    open();
+    expectStandingStraight();
+}
+
 TEST_F(ControlPanelLife, HidingThePanelLetsGoAndLeavesTheLevels) {
     open();
     values.gasLevel = 4000;

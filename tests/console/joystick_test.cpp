@@ -124,6 +124,24 @@ TEST_F(JoystickTest, ADeviceThatIsOpenIsDroppedBeforeItIsOpenedAnew) {
     EXPECT_TRUE(values.joystickActive);
 }
 
+TEST_F(JoystickTest, ADeviceThatCannotBeOpenedAnewIsDroppedAllTheSame) {
+    attachAndStart();
+    sticks.failing = {"open"};
+    joystick.acquireJoystick();
+    EXPECT_FALSE(gui.diDev);
+    press({2});
+    EXPECT_TRUE(values.caEnabled);
+}
+
+TEST_F(JoystickTest, WithoutItsNumberOfButtonsADeviceHasNoGear) {
+    sticks.failing = {"buttonCount"};
+    attachAndStart();
+    EXPECT_EQ(gui.lButtons, 0);
+    press({0, 6});
+    EXPECT_TRUE(values.joystickActive);
+    EXPECT_EQ(values.joystickGear, 0);
+}
+
 TEST_F(JoystickTest, TheStateThatTheDeviceHasAtTheStartIsTaken) {
     sticks.attach();
     press({0, 6});

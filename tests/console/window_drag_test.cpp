@@ -112,6 +112,13 @@ TEST_F(WindowDragging, AFormThatIsNotShownIsNotDragged) {
     EXPECT_FALSE(drag.windowDragging());
 }
 
+TEST_F(WindowDragging, AFormThatWasHiddenWhileItWasDraggedStaysWhereItWas) {
+    drag.leftDown({0, 0});
+    form.hide();
+    move({50, 50});
+    EXPECT_EQ(form.area().left, 1000);
+}
+
 TEST_F(WindowDragging, TellsTheView) {
     int told = 0;
     form.onMoved = [&told] { ++told; };
