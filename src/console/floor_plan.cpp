@@ -77,13 +77,14 @@ void bindFloorPlan(MapControls& controls) {
 void loadFloorPlan(MapControls& controls, const std::string& folder, Files& files) {
     const std::string big = folder + "/office.bmp";
     const std::string overview = folder + "/office_s.bmp";
-    if (files.fileExists(big)) controls.picRobotMap.setFile(big);
-    if (files.fileExists(overview)) controls.imgThumb.setFile(overview);
     const Size size = bitmapSize(files.read(big)).value_or(Size{});
     Area plan = controls.picRobotMap.area();
     plan.width = twipsOf(size.width);
     plan.height = twipsOf(size.height);
     controls.picRobotMap.setArea(plan);
+    // Last, so that whoever draws it knows how large it is.
+    if (files.fileExists(big)) controls.picRobotMap.setFile(big);
+    if (files.fileExists(overview)) controls.imgThumb.setFile(overview);
     setTravels(controls);
 }
 

@@ -1,38 +1,20 @@
 #include "desktop/station_windows.h"
 
-#include <QVBoxLayout>
-
 #include "console/maker.h"
-#include "console/menu_words.h"
-#include "desktop/binding/form_link.h"
 #include "desktop/forms/about_window.h"
 #include "desktop/forms/closing_sign.h"
 #include "desktop/forms/control_panel_window.h"
 #include "desktop/forms/login_window.h"
+#include "desktop/forms/main_window.h"
 #include "desktop/forms/notice_window.h"
 #include "desktop/forms/zoom_window.h"
 #include "desktop/paint_now.h"
+#include "desktop/views/live_views.h"
 #include "session/console_rooms.h"
 
 namespace quorrin {
 
 namespace {
-
-// Mode, keys and read-outs of the main form in one column.
-class MainWindow : public QWidget {
-  public:
-    MainWindow(frmGUI& form, const OperatorActs& acts) : controls_(acts, form) {
-        setWindowTitle(QString::fromStdString(quorrin::windowTitle(form.name())));
-        auto* const column = new QVBoxLayout(this);
-        column->addWidget(controls_.readOut("txtRobotStatus"));
-        for (const char* name : {"cmdChEn", "cmdShowControlPanel", "cmdStop", "cmdExit"})
-            column->addWidget(controls_(name));
-        new FormLink(*this, form, acts);
-    }
-
-  private:
-    ControlFactory controls_;
-};
 
 QStringList makers() {
     QStringList lines;
@@ -45,7 +27,9 @@ QStringList makers() {
 struct StationWindows::Windows {
     Windows(Station& station, const OperatorActs& acts)
         : login(station.login, acts),
-          main(station.gui, acts),
+          main(station.gui, station.values, station.controlPanel, acts,
+               new LiveViews(
+                   {station.values, station.gui, [&station] { return station.navigator(); }, acts.clock()})),
           panel(station.controlPanel, station.console().controlPanel().drag(), acts, &main),
           zoom(station.zoomCamera, station.console().zoomCamera().drag(), acts),
           about(station.about, acts, makers()),

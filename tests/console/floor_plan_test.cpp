@@ -58,6 +58,15 @@ TEST_F(FloorPlan, BothPicturesAreLoaded) {
     EXPECT_EQ(controls.imgThumb.file(), "/app/office_s.bmp");
 }
 
+TEST_F(FloorPlan, ThePlansSizeIsKnownWhenItsFileIsTold) {
+    Area told;
+    controls.picRobotMap.onLook = [&] {
+        if (!controls.picRobotMap.file().empty()) told = controls.picRobotMap.area();
+    };
+    load(1000, 700);
+    EXPECT_EQ(told, (Area{0, 0, 15000, 10500}));
+}
+
 TEST_F(FloorPlan, ATopDownBitmapCountsByItsRows) {
     load(1000, -700);
     EXPECT_EQ(controls.VScroll1.maximum(), 700 * 15 - kViewportHeight);

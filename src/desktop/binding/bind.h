@@ -15,6 +15,7 @@
 #include "base/controls.h"
 #include "desktop/operator_acts.h"
 #include "desktop/widgets/command.h"
+#include "desktop/widgets/lamp.h"
 #include "desktop/widgets/picture_view.h"
 #include "desktop/widgets/shadow_label.h"
 
@@ -35,6 +36,7 @@ void bind(QAbstractSlider& widget, Slider& control, const OperatorActs& acts);
 void bind(QComboBox& widget, ComboBox& control, const OperatorActs& acts);
 void bind(QListWidget& widget, ListBox& control, const OperatorActs& acts);
 void bind(PictureView& widget, Picture& control, const OperatorActs& acts);
+void bind(Lamp& widget, Shape& control, const OperatorActs& acts);
 // Also tells the control where the frame is in its window.
 void bind(QWidget& widget, Frame& control, const OperatorActs& acts);
 

@@ -64,6 +64,7 @@ QWidget* ControlFactory::make(Control& wanted) {
     if (auto* combo = dynamic_cast<ComboBox*>(&wanted)) return bound<QComboBox>(*combo, acts_);
     if (auto* list = dynamic_cast<ListBox*>(&wanted)) return bound<QListWidget>(*list, acts_);
     if (auto* picture = dynamic_cast<Picture*>(&wanted)) return bound<PictureView>(*picture, acts_, images_);
+    if (auto* lamp = dynamic_cast<Shape*>(&wanted)) return bound<Lamp>(*lamp, acts_);
     if (auto* frame = dynamic_cast<Frame*>(&wanted))
         return bound<QGroupBox>(*frame, acts_, QString::fromStdString(frame->caption()));
     throw ProgramError("control " + wanted.name() + " has no widget");

@@ -20,6 +20,10 @@ struct IconPart {
 // A word that is none of these ends the reading; what was read stands.
 std::vector<IconPart> readIconParts(const QString& words);
 
+// Draws the parts, scaled from the square of 24 by 24 to the largest square in the middle of the room.
+void drawParts(QPainter& painter, const QRectF& room, const std::vector<IconPart>& parts,
+               const QColor& colour);
+
 // The outline of an icon in those words; empty for `count`.
 QString iconWords(IconName name);
 

@@ -25,12 +25,16 @@ const std::vector<IconPart>& partsOf(IconName name) {
     return all[static_cast<std::size_t>(name)];
 }
 
+// Without colours of its own it takes those of the theme at the time of drawing.
 class DrawnIcon : public QIconEngine {
   public:
     DrawnIcon(IconName name, QColor colour, QColor disabled)
         : name_(name), colour_(colour), disabled_(disabled) {}
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        drawIcon(*painter, rect, name_, mode == QIcon::Disabled ? disabled_ : colour_);
+        const bool disabled = mode == QIcon::Disabled;
+        QColor colour = disabled ? disabled_ : colour_;
+        if (!colour.isValid()) colour = disabled ? currentTheme().disabled : currentTheme().buttonText;
+        drawIcon(*painter, rect, name_, colour);
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         QPixmap picture(size);
@@ -49,13 +53,14 @@ class DrawnIcon : public QIconEngine {
 
 }  // namespace
 
-void drawIcon(QPainter& painter, const QRectF& square, IconName name, const QColor& colour) {
-    const double side = qMin(square.width(), square.height());
+void drawParts(QPainter& painter, const QRectF& room, const std::vector<IconPart>& parts,
+               const QColor& colour) {
+    const double side = qMin(room.width(), room.height());
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(square.center().x() - side / 2, square.center().y() - side / 2);
+    painter.translate(room.center().x() - side / 2, room.center().y() - side / 2);
     painter.scale(side / kGrid, side / kGrid);
-    for (const IconPart& part : partsOf(name)) {
+    for (const IconPart& part : parts) {
         if (part.filled) {
             painter.fillPath(part.path, colour);
         } else {
@@ -65,12 +70,20 @@ void drawIcon(QPainter& painter, const QRectF& square, IconName name, const QCol
     painter.restore();
 }
 
+void drawIcon(QPainter& painter, const QRectF& square, IconName name, const QColor& colour) {
+    drawParts(painter, square, partsOf(name), colour);
+}
+
 QIcon icon(IconName name, const QColor& colour, const QColor& disabled) {
     return QIcon(new DrawnIcon(name, colour, disabled));
 }
 
 QIcon icon(IconName name, const Theme& theme) {
     return icon(name, theme.text, theme.disabled);
+}
+
+QIcon themedIcon(IconName name) {
+    return QIcon(new DrawnIcon(name, {}, {}));
 }
 
 }  // namespace quorrin

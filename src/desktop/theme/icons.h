@@ -77,6 +77,8 @@ void drawIcon(QPainter& painter, const QRectF& square, IconName name, const QCol
 
 // In the theme's text colour, paler when disabled.
 QIcon icon(IconName name, const Theme& theme);
+// Follows the application's theme whenever it is drawn.
+QIcon themedIcon(IconName name);
 QIcon icon(IconName name, const QColor& colour, const QColor& disabled);
 
 }  // namespace quorrin

@@ -47,7 +47,8 @@ struct Theme {
     // Type, as factors of the application's font.
     double captionSize = 0.86;
     double titleSize = 1.0;
-    double wordSize = 1.25;
+    double headingSize = 1.25;
+    double wordSize = 1.4;
     double displaySize = 2.1;
 
     // Logical pixels.

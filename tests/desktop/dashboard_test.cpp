@@ -1,0 +1,229 @@
+#include <gmock/gmock.h>
+
+#include <QAction>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <set>
+
+#include "desktop/dashboard_bench.h"
+#include "desktop/widgets/lamp.h"
+
+namespace quorrin {
+namespace {
+
+using testing::IsEmpty;
+
+class Dashboard : public DashboardBench {};
+
+QImage pictureOf(QWidget& widget) {
+    return widget.grab().toImage();
+}
+
+TEST_F(Dashboard, HasAWidgetForEveryControlThatIsToBeSeen) {
+    open();
+    // Only carry pictures.
+    const std::set<std::string> unseen = {"picTest",  "RoomPic",  "Frame1",
+                                          "HScroll1", "VScroll1", "fraMapDisplay"};
+    std::vector<std::string> missing;
+    for (const Control* control : bench.gui.controls()) {
+        if (dynamic_cast<const Timer*>(control) != nullptr || unseen.contains(control->name())) continue;
+        if (window->findChild<QWidget*>(QString::fromStdString(control->name())) == nullptr)
+            missing.push_back(control->name());
+    }
+    EXPECT_THAT(missing, IsEmpty());
+}
+
+TEST_F(Dashboard, HasEveryGroup) {
+    open();
+    for (const char* name : {"fra(0)", "fra(1)", "fra(2)", "fra(3)", "fra(4)", "fra(5)", "fra(7)", "fra(8)",
+                             "fra(9)", "fra(10)", "fra(11)", "fra(12)", "fra(13)", "frmMotor", "fraNetwork",
+                             "fraBat", "fraSetting", "fraSensor", "fraMapDisplay"})
+        EXPECT_NE(window->findChild<QWidget*>(name), nullptr) << name;
+}
+
+TEST_F(Dashboard, OpensAndClosesTheSettingsByItsKey) {
+    open();
+    EXPECT_FALSE(window->settings().isVisible());
+    click("cmdExpandSetting");
+    EXPECT_TRUE(window->settings().isVisible());
+    EXPECT_EQ(bench.gui.cmdExpandSetting.caption(), "Close Setting");
+    click("cmdExpandSetting");
+    EXPECT_FALSE(window->settings().isVisible());
+    EXPECT_EQ(bench.gui.cmdExpandSetting.caption(), "Open Setting");
+}
+
+TEST_F(Dashboard, ClosesTheSettingsByTheirOwnKeySoThatOnePressOpensThemAgain) {
+    open();
+    click("cmdExpandSetting");
+    click("cmdCloseSetting");
+    EXPECT_FALSE(window->settings().isVisible());
+    click("cmdExpandSetting");
+    EXPECT_TRUE(window->settings().isVisible());
+}
+
+TEST_F(Dashboard, TellsTheFrameWhereTheSettingsAre) {
+    open();
+    click("cmdExpandSetting");
+    const QRect place = window->settings().geometry();
+    EXPECT_EQ(bench.gui.fraSetting.area(),
+              (Area{place.x() * 15, place.y() * 15, place.width() * 15, place.height() * 15}));
+}
+
+TEST_F(Dashboard, OpensTheEngineeringViewByAShortcutThatTouchesNothingOfTheStation) {
+    open();
+    bench.take();
+    bool acted = false;
+    bench.gui.onOperatorAct = [&acted](const OperatorAct&) { acted = true; };
+    press(Qt::Key_F9);
+    EXPECT_TRUE(window->engineering().isVisible());
+    EXPECT_FALSE(bench.gui.fraSensor.visible());
+    EXPECT_FALSE(acted);
+    EXPECT_THAT(bench.take(), IsEmpty());
+}
+
+TEST_F(Dashboard, ClosesTheEngineeringViewByItsShortcutAsWellAsByItsKey) {
+    open();
+    press(Qt::Key_F9);
+    press(Qt::Key_F9);
+    EXPECT_FALSE(window->engineering().isVisible());
+    press(Qt::Key_F9);
+    click("cmdCloseSensor");
+    EXPECT_FALSE(window->engineering().isVisible());
+}
+
+TEST_F(Dashboard, ShowsTheEngineeringViewWhenTheFormDoes) {
+    open();
+    bench.gui.fraSensor.setVisible(true);
+    EXPECT_TRUE(window->engineering().isVisible());
+    click("cmdCloseSensor");
+    EXPECT_FALSE(window->engineering().isVisible());
+    EXPECT_FALSE(bench.gui.fraSensor.visible());
+}
+
+TEST_F(Dashboard, BlinksALampInTheFormsColoursWhileItsWordStands) {
+    open();
+    auto& lamp = find<Lamp>("shpBatteryStatus(0)");
+    bench.values.tiLinkUp = true;
+    bench.values.battery1Flash = true;
+    bench.gui.shpBatteryStatus(0).setFill(255);
+    window->refresh();
+    const std::string word = lamp.sign().word;
+    EXPECT_FALSE(word.empty());
+    const QImage red = pictureOf(lamp);
+    bench.clock.runFor(200);
+    window->refresh();
+    EXPECT_EQ(lamp.fill(), 8454016);
+    EXPECT_NE(pictureOf(lamp), red);
+    EXPECT_EQ(lamp.sign().word, word);
+    bench.clock.runFor(200);
+    window->refresh();
+    EXPECT_EQ(lamp.fill(), 255);
+    EXPECT_EQ(pictureOf(lamp), red);
+}
+
+TEST_F(Dashboard, ToolbarOpensTheAboutForm) {
+    open();
+    click("Toolbar1.Help");
+    EXPECT_FALSE(bench.station.about.shown());
+    click("Toolbar1.About");
+    EXPECT_TRUE(bench.station.about.shown());
+    EXPECT_TRUE(bench.values.aboutOpen);
+}
+
+TEST_F(Dashboard, RepaintsEverythingWhenTheThemeIsSwitched) {
+    open();
+    const QImage light = pictureOf(*window);
+    press(Qt::Key_F8, Qt::ShiftModifier);
+    ASSERT_TRUE(currentTheme().dark);
+    const QImage dark = pictureOf(*window);
+    // The ground between the groups, and a group.
+    EXPECT_EQ(light.pixelColor(1, light.height() / 2), lightTheme().window);
+    EXPECT_EQ(dark.pixelColor(1, dark.height() / 2), darkTheme().window);
+    press(Qt::Key_F8, Qt::ControlModifier);
+    EXPECT_EQ(pictureOf(*window), light);
+}
+
+TEST_F(Dashboard, OffersTheReviewKeysButDisabled) {
+    open();
+    click("cmdExpandSetting");
+    for (const char* name : {"cmdPlay", "cmdPause", "cmdStopReview", "cmdForward", "cmdBackward"}) {
+        EXPECT_TRUE(find(name).isVisible()) << name;
+        EXPECT_FALSE(find(name).isEnabled()) << name;
+    }
+}
+
+TEST_F(Dashboard, TellsTheFormOfTalkBeingPressedAndReleasedOutsideTheKey) {
+    open();
+    std::vector<OperatorAct::Kind> acted;
+    int pressed = 0;
+    int released = 0;
+    bench.gui.cmdTalk.setEnabled(true);
+    bench.gui.cmdTalk.onMouseDown = [&pressed] { ++pressed; };
+    bench.gui.cmdTalk.onMouseUp = [&released] { ++released; };
+    QWidget& talk = find("cmdTalk");
+    QTest::mousePress(&talk, Qt::LeftButton, {}, talk.rect().center());
+    settle();
+    EXPECT_EQ(pressed, 1);
+    EXPECT_EQ(released, 0);
+    QTest::mouseRelease(&talk, Qt::LeftButton, {}, QPoint(-50, -50));
+    settle();
+    EXPECT_EQ(released, 1);
+}
+
+TEST_F(Dashboard, ShowsWhatTheOperatorTypesAsThePositionToTheForm) {
+    open();
+    click("cmdExpandSetting");
+    auto& box = find<QLineEdit>("txtRobotCurrX");
+    box.setFocus();
+    box.selectAll();
+    QTest::keyClicks(&box, "2.5");
+    QTest::keyClick(&box, Qt::Key_Return);
+    settle();
+    EXPECT_EQ(bench.gui.txtRobotCurrX.text(), "2.5");
+}
+
+TEST_F(Dashboard, SaysInTheStripWhichModeTheRobotIsIn) {
+    open();
+    auto& mode = find<GlanceTile>("glance.0");
+    bench.values.tickEnabled = true;
+    bench.values.robotMode = 10;
+    window->refresh();
+    EXPECT_EQ(mode.glance().word, "wondering");
+    EXPECT_EQ(mode.accessibleDescription().toStdString().substr(0, 9), "wondering");
+}
+
+TEST_F(Dashboard, ShowsAVisibleSignWhileARemoteClientIsConnected) {
+    open();
+    auto& remote = find<GlanceTile>("glance.8");
+    window->refresh();
+    EXPECT_EQ(remote.glance().tone, Tone::off);
+    const QImage alone = pictureOf(remote);
+    bench.gui.ConnectionList.add("10.0.0.7  [50000] - [7060]", 1);
+    window->refresh();
+    EXPECT_EQ(remote.glance().tone, Tone::good);
+    EXPECT_NE(pictureOf(remote), alone);
+}
+
+TEST_F(Dashboard, NamesEverythingThatCanBeReachedForThoseWhoDoNotSeeIt) {
+    open();
+    std::vector<std::string> nameless;
+    for (const QWidget* widget : window->findChildren<QWidget*>()) {
+        // The lists that drop down are the toolkit's.
+        if (widget->window() != window.get()) continue;
+        const bool reached = widget->focusPolicy() != Qt::NoFocus && !widget->objectName().startsWith("qt_");
+        if (reached && widget->accessibleName().isEmpty())
+            nameless.push_back(widget->objectName().toStdString());
+    }
+    EXPECT_THAT(nameless, IsEmpty());
+}
+
+TEST_F(Dashboard, IsReachedByTabInReadingOrder) {
+    open();
+    QWidget& first = find("Toolbar1.Help");
+    first.setFocus();
+    QTest::keyClick(&first, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &find("Toolbar1.About"));
+}
+
+}  // namespace
+}  // namespace quorrin

@@ -1,0 +1,113 @@
+#include "desktop/layout_faults.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+
+#include "desktop/widgets/command.h"
+#include "desktop/widgets/glance_tile.h"
+#include "desktop/widgets/lamp.h"
+#include "desktop/widgets/shadow_label.h"
+
+namespace quorrin {
+
+namespace {
+
+std::string nameOf(const QWidget& widget) {
+    const QWidget* named = &widget;
+    while (named->objectName().isEmpty() && named->parentWidget() != nullptr) named = named->parentWidget();
+    return std::string(widget.metaObject()->className()) + " " + named->objectName().toStdString() + " \"" +
+           widget.accessibleName().toStdString() + "\"";
+}
+
+std::string sizeText(QSize size) {
+    return std::to_string(size.width()) + "x" + std::to_string(size.height());
+}
+
+// Shows a text of its own, and needs what it asks for.
+bool writes(const QWidget& widget) {
+    return dynamic_cast<const QLabel*>(&widget) != nullptr ||
+           dynamic_cast<const QAbstractButton*>(&widget) != nullptr ||
+           dynamic_cast<const ShadowLabel*>(&widget) != nullptr ||
+           dynamic_cast<const Command*>(&widget) != nullptr ||
+           dynamic_cast<const Lamp*>(&widget) != nullptr ||
+           dynamic_cast<const QComboBox*>(&widget) != nullptr;
+}
+
+class Walk {
+  public:
+    explicit Walk(const QSet<QString>& covering) : covering_(covering) {}
+
+    void over(const QWidget& parent) {
+        std::vector<const QWidget*> children;
+        for (const QObject* object : parent.children()) {
+            const auto* child = qobject_cast<const QWidget*>(object);
+            if (child != nullptr && !child->isWindow() && child->isVisible()) children.push_back(child);
+        }
+        for (const QWidget* child : children) {
+            // What scrolls may be larger than what it is seen through; the floor plan's viewport is such a
+            // place too.
+            const bool scrolls = qobject_cast<const QScrollArea*>(parent.parentWidget()) != nullptr ||
+                                 parent.objectName() == QLatin1String("Frame1");
+            if (!scrolls && !parent.rect().contains(child->geometry()))
+                faults.push_back(nameOf(*child) + " is not inside " + nameOf(parent));
+            look(*child);
+        }
+        overlaps(children);
+    }
+
+    std::vector<std::string> faults;
+
+  private:
+    void look(const QWidget& widget) {
+        if (writes(widget)) {
+            const QSize needed = widget.minimumSizeHint().expandedTo(QSize(1, 1));
+            if (needed.width() > widget.width() || needed.height() > widget.height())
+                faults.push_back(nameOf(widget) + " is " + sizeText(widget.size()) + " and needs " +
+                                 sizeText(needed));
+            return;
+        }
+        if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) {
+            constexpr int kEdges = 12;
+            const int text = edit->fontMetrics().horizontalAdvance(edit->text()) + kEdges;
+            if (text > edit->width() || edit->fontMetrics().height() > edit->height())
+                faults.push_back(nameOf(widget) + " is too small for " + edit->text().toStdString());
+            return;
+        }
+        if (const auto* tile = dynamic_cast<const GlanceTile*>(&widget)) {
+            if (!tile->whole()) faults.push_back(nameOf(widget) + " does not show its whole text");
+            return;
+        }
+        // The insides of lists and the like are the toolkit's.
+        const bool list = qobject_cast<const QAbstractScrollArea*>(&widget) != nullptr &&
+                          qobject_cast<const QScrollArea*>(&widget) == nullptr;
+        if (!list) over(widget);
+    }
+
+    void overlaps(const std::vector<const QWidget*>& siblings) {
+        for (std::size_t i = 0; i < siblings.size(); ++i) {
+            for (std::size_t j = i + 1; j < siblings.size(); ++j) {
+                if (covering_.contains(siblings[i]->objectName()) ||
+                    covering_.contains(siblings[j]->objectName()))
+                    continue;
+                if (siblings[i]->geometry().intersects(siblings[j]->geometry()))
+                    faults.push_back(nameOf(*siblings[i]) + " overlaps " + nameOf(*siblings[j]));
+            }
+        }
+    }
+
+    const QSet<QString>& covering_;
+};
+
+}  // namespace
+
+std::vector<std::string> layoutFaults(const QWidget& window, const QSet<QString>& covering) {
+    Walk walk(covering);
+    walk.over(window);
+    return walk.faults;
+}
+
+}  // namespace quorrin
