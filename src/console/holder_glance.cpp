@@ -33,11 +33,14 @@ Glance holderGlance(const PublicValues& values, const frmGUI& gui, const Form& p
 
 Glance remoteGlance(const PublicValues& values, const frmGUI& gui) {
     const std::size_t count = gui.ConnectionList.count();
+    const std::string& problem = values.listenProblem;
+    if (count == 0 && !problem.empty()) return {"no calls", problem, Tone::bad};
     if (count == 0)
         return {"none", gui.chkRemote.checked() ? "calls are answered" : "calls are asked about", Tone::off};
     std::string detail = gui.ConnectionList.line(0);
     if (count > 1) detail += " and " + std::to_string(count - 1) + " more";
     if (!values.remoteCommandActive) detail += ", silent";
+    if (!problem.empty()) return {"connected", detail + "; " + problem, Tone::warning};
     return {"connected", detail, Tone::good};
 }
 

@@ -27,7 +27,8 @@ std::string statusLine(const PublicValues& values, const std::string& mode, bool
            " right=" + nearest(values, RangeSide::right) + " cmdL=" + formatFixed(values.wheelCmdLeft, 0) +
            " cmdR=" + formatFixed(values.wheelCmdRight, 0) + " bat1=" + formatFixed(values.battery1Volts, 2) +
            " bat2=" + formatFixed(values.battery2Volts, 2) + " dc=" + formatFixed(values.dcInVolts, 2) +
-           " remote=" + flag(remoteConnected);
+           " remote=" + flag(remoteConnected) +
+           (values.listenProblem.empty() ? "" : " (" + values.listenProblem + ")");
 }
 
 }  // namespace quorrin

@@ -5,7 +5,8 @@
 // t in seconds since the station's start; mode is the status text as it stands, which may be empty or hold a
 // blank ("comm wrong"); mot, ti and remote are 0 or 1; x, y in metres and theta in radians in the station's
 // own frame; front, left and right the nearest range there in metres from the robot's centre ("-" before the
-// first); cmdL and cmdR the last wheel command in counts per second; batteries and DC input in volts.
+// first); cmdL and cmdR the last wheel command in counts per second; batteries and DC input in volts. Behind
+// it, in brackets, why remote clients cannot call ("port 7060 is in use"), where they cannot.
 #pragma once
 
 #include <string>

@@ -62,7 +62,9 @@ void RemoteConnections::commandClosed(int index) {
 void RemoteConnections::errorEvent(SocketArray& array, int index) {
     Socket& socket = *array.element(index);
     socket.close();
-    if (index == 0) socket.listen();
+    if (index > 0) return;
+    socket.listen();
+    noteListenProblems();
 }
 
 // The two flags of the commands are set, and stay so after the session: a client that comes back gets reports

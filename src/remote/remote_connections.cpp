@@ -44,6 +44,7 @@ void RemoteConnections::startRemoteListeners() {
     parts_.values.remoteCommandsSeen = false;
     for (SocketArray* array : {&wskCommand_, &wskVideo_, &wskSensor_, &wskAudio_, &wskTTS_, &wskSendVoice_})
         array->startOnPort();
+    noteListenProblems();
 }
 
 bool RemoteConnections::answered() {
@@ -98,14 +99,14 @@ void RemoteConnections::sendStatus(int element, const std::string& record) {
     if (Socket* socket = wskSensor_.element(element)) socket->send(record);
 }
 
-std::vector<std::string> RemoteConnections::listenProblems() const {
-    std::vector<std::string> problems;
+void RemoteConnections::noteListenProblems() {
+    std::string problems;
     for (const SocketArray* array :
          {&wskCommand_, &wskVideo_, &wskSensor_, &wskAudio_, &wskTTS_, &wskSendVoice_}) {
         const std::string problem = array->listener().listenError();
-        if (!problem.empty()) problems.push_back(problem);
+        if (!problem.empty()) problems += (problems.empty() ? "" : ", ") + problem;
     }
-    return problems;
+    parts_.values.listenProblem = problems;
 }
 
 }  // namespace quorrin

@@ -14,7 +14,6 @@
 
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "remote/command_channel.h"
 #include "remote/frame_codec.h"
@@ -39,9 +38,6 @@ class RemoteConnections {
     // A status record to one element of wskSensor; lost where there is no connected one.
     void sendStatus(int element, const std::string& record);
 
-    // Why listeners are not up, one line each; empty when all are.
-    std::vector<std::string> listenProblems() const;
-
   private:
     // remote_connections.cpp
     void bindCommand();
@@ -52,6 +48,7 @@ class RemoteConnections {
     void commandData(int index);
     void chkRemote_Change();
     void playRingTone(int number);
+    void noteListenProblems();
     // connection_ends.cpp
     void bindEnds();
     void commandClosed(int index);

@@ -52,6 +52,7 @@ void addSessionFields(FieldTable& table, const PublicValues& values) {
     QUORRIN_FIELD(remoteCommandActive);
     QUORRIN_FIELD(remoteListening);
     QUORRIN_FIELD(callAccepted);
+    QUORRIN_FIELD(listenProblem);
     QUORRIN_FIELD(commandCount);
     QUORRIN_FIELD(lastCommandCount);
     QUORRIN_FIELD(videoClientConnected);

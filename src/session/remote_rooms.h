@@ -19,8 +19,6 @@ class RemoteRooms {
     RemoteRooms(const StationPorts& ports, PublicValues& values, frmGUI& gui, frmControlPanel& panel,
                 SessionSeams& seams);
 
-    const RemoteConnections& connections() const { return connections_; }
-
   private:
     RemoteConnections connections_;
 };

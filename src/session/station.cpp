@@ -87,8 +87,4 @@ ConsoleRooms& Station::console() {
     return parts_->console;
 }
 
-const RemoteConnections* Station::remote() const {
-    return parts_->remote ? &parts_->remote->connections() : nullptr;
-}
-
 }  // namespace quorrin

@@ -26,7 +26,6 @@ namespace quorrin {
 class AntiStuck;
 class ConsoleRooms;
 class GPS;
-class RemoteConnections;
 class SensorMapBuilder;
 class speedP2PVFH;
 
@@ -59,8 +58,6 @@ class Station {
     const AntiStuck* antiStuck() const;
     // What the console's forms do; lives as long as the station.
     ConsoleRooms& console();
-    // The remote clients' connections; null for a station without sockets.
-    const RemoteConnections* remote() const;
 
   private:
     struct Parts;

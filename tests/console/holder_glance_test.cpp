@@ -98,6 +98,17 @@ TEST_F(HolderGlance, WithoutAClientTheSignTellsHowCallsAreTaken) {
     EXPECT_EQ(remoteGlance(values, gui).detail, "calls are asked about");
 }
 
+TEST_F(HolderGlance, APortThatAnotherHoldsIsToldWithAndWithoutAClient) {
+    values.listenProblem = "port 7060 is in use";
+    EXPECT_EQ(remoteGlance(values, gui).word, "no calls");
+    EXPECT_EQ(remoteGlance(values, gui).detail, "port 7060 is in use");
+    EXPECT_EQ(remoteGlance(values, gui).tone, Tone::bad);
+    clientDrives();
+    EXPECT_EQ(remoteGlance(values, gui).word, "connected");
+    EXPECT_EQ(remoteGlance(values, gui).detail, "192.168.0.9; port 7060 is in use");
+    EXPECT_EQ(remoteGlance(values, gui).tone, Tone::warning);
+}
+
 TEST_F(HolderGlance, AConnectedClientIsNamed) {
     clientDrives();
     EXPECT_EQ(remoteGlance(values, gui).word, "connected");

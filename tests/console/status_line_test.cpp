@@ -32,6 +32,12 @@ TEST_F(StatusLineTest, TellsEverythingInItsOrder) {
         "bat1=12.00 bat2=0.00 dc=0.00 remote=1");
 }
 
+TEST_F(StatusLineTest, TellsBehindItAllWhyClientsCannotCall) {
+    values->listenProblem = "port 7060 is in use";
+    const std::string line = statusLine(*values, "JOY", false, 1);
+    EXPECT_EQ(line.substr(line.find(" remote=")), " remote=0 (port 7060 is in use)");
+}
+
 TEST_F(StatusLineTest, GivesTheNearestRangeOfEachSide) {
     values->irRange = {0.9, 0.8, 0.7, 0.95, 0.6, 0.5, 0.4, 0.3, 0.3, 0.3};
     values->sonarRange = {0.35, 0.65, 0.45, 0.2, 0, 0};

@@ -1,6 +1,8 @@
 // Flags of the remote session, the camera chain and the voice paths that several rooms share.
 #pragma once
 
+#include <string>
+
 #include "base/checked_int.h"
 
 namespace quorrin {
@@ -10,8 +12,10 @@ struct RemoteValues {
     bool remoteCommandActive = false;  // frames are arriving
     bool remoteListening = false;      // the client wants to hear the robot
     bool callAccepted = false;         // a call on the command port has been answered
-    Integer commandCount;              // the client's running counter
-    Integer lastCommandCount;          // the number in txtCommandCount when that last changed
+    // Why a channel cannot be called, "port 7060 is in use"; empty while all can.
+    std::string listenProblem;
+    Integer commandCount;      // the client's running counter
+    Integer lastCommandCount;  // the number in txtCommandCount when that last changed
 };
 
 struct CameraValues {
