@@ -256,6 +256,7 @@ void Picture::setNumber(int number) {
 
 void Picture::setFile(std::string file) {
     file_ = std::move(file);
+    ++fileLoads_;
     content_.reset();
     looks();
 }

@@ -233,7 +233,10 @@ class Picture : public Control {
     int number() const { return number_; }
     void setNumber(int number);
     const std::string& file() const { return file_; }
+    // The same file again means that it has changed: whoever shows it reads it again.
     void setFile(std::string file);
+    // How often a file was named; a view reads it when this has grown, and not when it only draws anew.
+    std::int64_t fileLoads() const { return fileLoads_; }
     // The whole content of the file where the program has read it, else null.
     const std::shared_ptr<const std::string>& content() const { return content_; }
     // The same file with the same content changes nothing.
@@ -266,6 +269,7 @@ class Picture : public Control {
   private:
     int number_ = 0;
     std::string file_;
+    std::int64_t fileLoads_ = 0;
     std::shared_ptr<const std::string> content_;
     std::int64_t refreshes_ = 0;
     Area area_;

@@ -336,6 +336,44 @@ TEST_F(Bindings, APictureThatIsNotToBeSeenIsReadWhenItIs) {
     EXPECT_FALSE(view.image().isNull());
 }
 
+TEST_F(Bindings, APictureThatIsOnlyDrawnAnewOrDisabledIsNotReadAgain) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("frame.bmp");
+    ASSERT_TRUE(QImage(4, 2, QImage::Format_RGB32).save(file));
+    auto& view = put<PictureView>("imgCamera");
+    settle();
+    form.imgCamera.setFile(file.toStdString());
+    ASSERT_TRUE(QImage(8, 6, QImage::Format_RGB32).save(file));
+    form.imgCamera.refresh();
+    form.imgCamera.setEnabled(false);
+    EXPECT_EQ(view.image().size(), QSize(4, 2));
+}
+
+TEST_F(Bindings, APictureIsReadAgainWhenTheSameFileIsNamedAgain) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("frame.bmp");
+    ASSERT_TRUE(QImage(4, 2, QImage::Format_RGB32).save(file));
+    auto& view = put<PictureView>("imgCamera");
+    settle();
+    form.imgCamera.setFile(file.toStdString());
+    ASSERT_TRUE(QImage(8, 6, QImage::Format_RGB32).save(file));
+    form.imgCamera.setFile(file.toStdString());
+    EXPECT_EQ(view.image().size(), QSize(8, 6));
+}
+
+TEST_F(Bindings, AClearedPictureIsReadWhenItsFileIsNamedAgain) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("frame.bmp");
+    ASSERT_TRUE(QImage(4, 2, QImage::Format_RGB32).save(file));
+    auto& view = put<PictureView>("imgCamera");
+    settle();
+    form.imgCamera.setFile(file.toStdString());
+    form.imgCamera.clear();
+    EXPECT_TRUE(view.image().isNull());
+    form.imgCamera.setFile(file.toStdString());
+    EXPECT_EQ(view.image().size(), QSize(4, 2));
+}
+
 TEST_F(Bindings, AFrameTellsItsControlWhereItIs) {
     auto& frame = put<QGroupBox>("fraPanel");
     EXPECT_EQ(frame.title(), "Panel");
@@ -343,6 +381,38 @@ TEST_F(Bindings, AFrameTellsItsControlWhereItIs) {
     settle();
     frame.setGeometry(10, 20, 300, 40);
     EXPECT_EQ(form.fraPanel.area(), (Area{150, 300, 4500, 600}));
+}
+
+TEST_F(Bindings, AFrameTellsItsControlAlsoWhenOnlyWhatHoldsItMoves) {
+    auto* const outer = new QWidget(&window);
+    auto* const inner = new QWidget(outer);
+    auto* const frame = controls("fraPanel");
+    frame->setParent(inner);
+    frame->setGeometry(10, 20, 300, 40);
+    outer->setGeometry(0, 0, 400, 200);
+    inner->setGeometry(0, 0, 400, 200);
+    settle();
+    window.resize(500, 300);
+    outer->move(30, 0);
+    settle();
+    EXPECT_EQ(form.fraPanel.area(), (Area{600, 300, 4500, 600}));
+    inner->move(0, 40);
+    settle();
+    EXPECT_EQ(form.fraPanel.area(), (Area{600, 900, 4500, 600}));
+}
+
+TEST_F(Bindings, AFrameThatIsPutElsewhereTellsItsNewPlace) {
+    auto* const frame = controls("fraPanel");
+    frame->setParent(&window);
+    frame->setGeometry(10, 20, 300, 40);
+    auto* const holder = new QWidget(&window);
+    holder->setGeometry(50, 0, 400, 200);
+    frame->setParent(holder);
+    settle();
+    EXPECT_EQ(form.fraPanel.area(), (Area{900, 300, 4500, 600}));
+    holder->move(60, 0);
+    settle();
+    EXPECT_EQ(form.fraPanel.area(), (Area{1050, 300, 4500, 600}));
 }
 
 TEST_F(Bindings, TwoWidgetsMayShowOneControl) {

@@ -21,11 +21,31 @@ class FrameBinding : public Binding {
     void showValue() override {}
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Move || event->type() == QEvent::Resize) tellArea();
+        switch (event->type()) {
+            case QEvent::Show:
+            case QEvent::ParentChange:
+                watchAround();
+                tellArea();
+                break;
+            case QEvent::Move:
+            case QEvent::Resize:
+                tellArea();
+                break;
+            default:
+                break;
+        }
         return Binding::eventFilter(watched, event);
     }
 
   private:
+    // The frame's place in its window changes also when only something around it moves. A widget that stands
+    // around it no more is heard in vain, and harmlessly.
+    void watchAround() {
+        for (QWidget* around = &widget_; around != nullptr && !around->isWindow();
+             around = around->parentWidget())
+            around->installEventFilter(this);
+    }
+
     void tellArea() {
         const QPoint place = widget_.mapTo(widget_.window(), QPoint(0, 0));
         control_.setArea(twips(QRect(place, widget_.size())));

@@ -13,16 +13,17 @@ class PictureBinding : public Binding {
     }
 
   protected:
-    // Being told the same file again means that it has changed.
+    // Not every look is worth a read: the file is read when it was named anew, and a refresh only paints.
     void showValue() override {
         widget_.setNumber(control_.number());
         if (control_.file().empty()) {
             widget_.clear();
         } else if (control_.content()) {
             widget_.setContent(control_.content());
-        } else {
+        } else if (fileLoads_ != control_.fileLoads()) {
             widget_.setFile(QString::fromStdString(control_.file()));
         }
+        fileLoads_ = control_.fileLoads();
         if (refreshes_ != control_.refreshes()) {
             refreshes_ = control_.refreshes();
             widget_.update();
@@ -32,6 +33,7 @@ class PictureBinding : public Binding {
   private:
     PictureView& widget_;
     Picture& control_;
+    std::int64_t fileLoads_ = 0;
     std::int64_t refreshes_ = 0;
 };
 
