@@ -101,6 +101,16 @@ const std::string& frameTitle(const std::string& group) {
     return textIn(titles, group);
 }
 
+const std::string& frameName(const std::string& group) {
+    static const std::map<std::string, std::string> untitled = {
+        {"fra(2)", "Drives, power, network and overview"},
+        {"fra(5)", "Robot"},
+        {"fra(9)", "Camera view"},
+    };
+    const std::string& title = frameTitle(group);
+    return title.empty() ? textIn(untitled, group) : title;
+}
+
 const std::string& pictureWord(const std::string& control, int number) {
     static const std::map<std::pair<std::string, int>, std::string> words = {
         {{"cmdChEn", 1}, "wondering"},

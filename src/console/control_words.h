@@ -27,6 +27,8 @@ const std::string& fieldSuffix(const std::string& form, const std::string& contr
 // The caption of a group, by the group's name ("fra(13)", "frmMotor", "fraSetting"); "" for a group without
 // one.
 const std::string& frameTitle(const std::string& group);
+// The same for those who do not see it: a group without a caption has a name, too.
+const std::string& frameName(const std::string& group);
 
 // What the number of a picture says, for pictures that are a sign: pictureWord("imgNetwork", 4). "" for
 // others.

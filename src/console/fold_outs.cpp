@@ -29,8 +29,4 @@ void hideFoldOuts(FoldOutControls& controls) {
     controls.fraSensor.moveTo(kSensorPlace.left, kSensorPlace.top);
 }
 
-void openSensor(FoldOutControls& controls) {
-    controls.fraSensor.setVisible(true);
-}
-
 }  // namespace quorrin

@@ -41,6 +41,7 @@ const LiveViewWords& liveViewWords() {
         "Drag to move, turn the wheel to zoom; F follows the robot, Home shows the whole grid",
         "Own window",
         "Shows the live views in a window of their own",
+        "Ctrl+L",
         "Bring back",
         "The live views are in a window of their own.",
         "1 m",

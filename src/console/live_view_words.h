@@ -48,6 +48,7 @@ struct LiveViewWords {
     const char* gridTip;
     const char* ownWindow;  // caption of the key that detaches the views
     const char* ownWindowTip;
+    const char* moveKeys;   // key sequence that does either
     const char* back;       // caption of the key that brings them back
     const char* elsewhere;  // what stands in the views' place meanwhile
     const char* oneMetre;

@@ -8,7 +8,7 @@ const std::string& windowTitle(const std::string& form) {
     static const std::map<std::string, std::string> titles = {
         {"frmLogin", "Quorrin Station: Robot Address"}, {"frmGUI", "Quorrin Station"},
         {"frmControlPanel", "Control Panel"},           {"frmZoomCamera", "Camera"},
-        {"frmAbout", "About Quorrin Station"},          {"liveView", "Quorrin Station: Live View"},
+        {"frmAbout", "About Quorrin Station"},
     };
     static const std::string other = "Quorrin Station";
     const auto found = titles.find(form);
@@ -21,10 +21,6 @@ const MenuWords& menuWords(MenuEntry entry) {
         {MenuEntry::engineeringView,
          {"&Engineering View", "Opens ranges, thresholds, counters and raw values over the dashboard.",
           "F9"}},
-        {MenuEntry::detachLiveView,
-         {"&Detach Live View", "Puts the live view into a window of its own.", "Ctrl+L"}},
-        {MenuEntry::attachLiveView,
-         {"&Attach Live View", "Puts the live view back into the engineering view.", "Ctrl+Shift+L"}},
         {MenuEntry::lightTheme, {"&Light Theme", "Dark text on light ground.", "Ctrl+F8"}},
         {MenuEntry::darkTheme, {"Dar&k Theme", "Light text on dark ground.", "Shift+F8"}},
     };

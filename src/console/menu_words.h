@@ -12,8 +12,6 @@ const std::string& windowTitle(const std::string& form);
 enum class MenuEntry {
     viewMenu,
     engineeringView,
-    detachLiveView,
-    attachLiveView,
     lightTheme,
     darkTheme,
 };

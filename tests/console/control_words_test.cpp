@@ -6,6 +6,7 @@
 #include <map>
 #include <set>
 
+#include "console/live_view_words.h"
 #include "console/menu_words.h"
 #include "support/station_bench.h"
 
@@ -61,9 +62,9 @@ TEST_F(ControlWordsOfAllForms, EveryToolTipIsMadeOfSentences) {
 
 TEST_F(ControlWordsOfAllForms, NoTwoShortcutsOfOneFormClash) {
     std::map<std::string, std::string> owners;
-    for (const MenuEntry entry : {MenuEntry::engineeringView, MenuEntry::detachLiveView,
-                                  MenuEntry::attachLiveView, MenuEntry::lightTheme, MenuEntry::darkTheme})
+    for (const MenuEntry entry : {MenuEntry::engineeringView, MenuEntry::lightTheme, MenuEntry::darkTheme})
         EXPECT_TRUE(owners.emplace("frmGUI: " + menuWords(entry).shortcut, menuWords(entry).text).second);
+    owners.emplace(std::string("frmGUI: ") + liveViewWords().moveKeys, "live views");
     // The menu's own letter.
     owners.emplace("frmGUI: Alt+V", menuWords(MenuEntry::viewMenu).text);
     eachSeen([&](const Form& form, const Control& control, const ControlWords& words) {
@@ -162,6 +163,15 @@ TEST(ControlWords, TheFixedCaptionsOfTheGroupsStandAsTheyAre) {
     EXPECT_EQ(frameTitle("fra(99)"), "");
 }
 
+TEST(ControlWords, AGroupWithoutATitleHasANameToBeReadAloud) {
+    for (const char* group : {"fra(2)", "fra(5)", "fra(9)"}) {
+        EXPECT_EQ(frameTitle(group), "") << group;
+        EXPECT_NE(frameName(group), "") << group;
+    }
+    EXPECT_EQ(frameName("fra(13)"), "Power Status");
+    EXPECT_EQ(frameName("fra(99)"), "");
+}
+
 TEST(ControlWords, EveryPictureThatIsASignHasAWord) {
     EXPECT_EQ(pictureWord("cmdChEn", 2), "IDLE");
     EXPECT_NE(pictureWord("imgNetwork", 4), pictureWord("imgNetwork", 5));
@@ -172,8 +182,8 @@ TEST(ControlWords, EveryPictureThatIsASignHasAWord) {
 }
 
 TEST(MenuWords, EveryEntryHasTextAndTip) {
-    for (const MenuEntry entry : {MenuEntry::viewMenu, MenuEntry::engineeringView, MenuEntry::detachLiveView,
-                                  MenuEntry::attachLiveView, MenuEntry::lightTheme, MenuEntry::darkTheme}) {
+    for (const MenuEntry entry :
+         {MenuEntry::viewMenu, MenuEntry::engineeringView, MenuEntry::lightTheme, MenuEntry::darkTheme}) {
         EXPECT_NE(menuWords(entry).text.find('&'), std::string::npos);
         EXPECT_EQ(menuWords(entry).tip.back(), '.');
     }

@@ -32,17 +32,6 @@ TEST_F(FoldOuts, APanelKeepsTheSizeThatItsViewTold) {
     EXPECT_EQ(controls.fraSetting.area(), (Area{kSettingPlace.left, kSettingPlace.top, 3000, 2000}));
 }
 
-TEST_F(FoldOuts, OpeningTheEngineeringViewTouchesNothingElse) {
-    controls.cmdExpandSetting.operatorClick();
-    int acts = 0;
-    form.onOperatorAct = [&acts](const OperatorAct&) { ++acts; };
-    openSensor(controls);
-    EXPECT_TRUE(controls.fraSensor.visible());
-    EXPECT_TRUE(controls.fraSetting.visible());
-    EXPECT_EQ(controls.cmdExpandSetting.caption(), "Close Setting");
-    EXPECT_EQ(acts, 0);
-}
-
 TEST_F(FoldOuts, AnyOtherCaptionHidesThePanel) {
     controls.fraSetting.setVisible(true);
     controls.cmdExpandSetting.setCaption("Something else");

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QPushButton>
+#include <QTest>
 #include <map>
 
 #include "console/live_view_words.h"
@@ -158,6 +159,17 @@ TEST_F(LiveViewsTest, ClosingTheOwnWindowWhileThePanelIsFoldedInStopsTheTimer) {
     deliverQueued();
     EXPECT_FALSE(views.detached());
     EXPECT_FALSE(views.panel().running());
+}
+
+TEST_F(LiveViewsTest, ItsShortcutDetachesAndBringsBackWhateverTheKeyReads) {
+    LiveViews views(source_);
+    views.show();
+    for (const bool detached : {true, false}) {
+        views.activateWindow();
+        deliverQueued();
+        QTest::keyClick(&views, Qt::Key_L, Qt::ControlModifier);
+        EXPECT_EQ(views.detached(), detached);
+    }
 }
 
 TEST_F(LiveViewsTest, TheKeyDetachesAndBringsBack) {

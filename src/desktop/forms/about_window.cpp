@@ -57,7 +57,7 @@ QWidget* AboutWindow::extension(const QStringList& makers) {
     column->setContentsMargins(0, 0, 0, 0);
     auto* const list = new QLabel(makers.join('\n'));
     list->setTextFormat(Qt::PlainText);
-    list->setObjectName(QString::fromStdString(form_.picDesignTeam.name()));
+    controls_.dress(*list, form_.picDesignTeam);
     column->addWidget(list);
     page_->adjustSize();
     constexpr int kRoomAbove = 12;  // the page comes to rest a little below the top

@@ -12,11 +12,14 @@ NoticeWindow::NoticeWindow() : lines_(new QListWidget) {
     setObjectName(QStringLiteral("notices"));
     setWindowTitle(QString::fromStdString(complaintsTitle()));
     lines_->setWordWrap(true);
+    lines_->setObjectName(QStringLiteral("noticesList"));
     lines_->setAccessibleName(windowTitle());
     auto* const column = new QVBoxLayout(this);
     column->setSpacing(currentTheme().space);
     column->addWidget(lines_);
     auto* const close = new QPushButton(QString::fromStdString(closeComplaints()));
+    close->setObjectName(QStringLiteral("noticesClose"));
+    close->setAccessibleName(close->text());
     close->setShortcut(Qt::Key_Escape);
     connect(close, &QPushButton::clicked, this, &QWidget::close);
     column->addWidget(close, 0, Qt::AlignRight);

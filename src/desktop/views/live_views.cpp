@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "console/live_view_words.h"
@@ -98,6 +99,10 @@ LiveViews::LiveViews(const LiveSource& source, QWidget* parent)
     layout_->addWidget(panel_, 1);
     elsewhere_->hide();
     QObject::connect(move_, &QPushButton::clicked, this, [this] { detached() ? attach() : detach(); });
+    // A shortcut of the key itself would go with its caption.
+    auto* const keys = new QShortcut(QKeySequence(liveViewWords().moveKeys), move_);
+    keys->setAutoRepeat(false);
+    QObject::connect(keys, &QShortcut::activated, move_, &QPushButton::click);
 }
 
 LiveViews::~LiveViews() = default;
