@@ -391,8 +391,8 @@ TEST_F(Bindings, AFrameTellsItsControlAlsoWhenOnlyWhatHoldsItMoves) {
     frame->setGeometry(10, 20, 300, 40);
     outer->setGeometry(0, 0, 400, 200);
     inner->setGeometry(0, 0, 400, 200);
+    outer->show();
     settle();
-    window.resize(500, 300);
     outer->move(30, 0);
     settle();
     EXPECT_EQ(form.fraPanel.area(), (Area{600, 300, 4500, 600}));
@@ -405,9 +405,13 @@ TEST_F(Bindings, AFrameThatIsPutElsewhereTellsItsNewPlace) {
     auto* const frame = controls("fraPanel");
     frame->setParent(&window);
     frame->setGeometry(10, 20, 300, 40);
+    frame->show();
+    settle();
     auto* const holder = new QWidget(&window);
     holder->setGeometry(50, 0, 400, 200);
+    holder->show();
     frame->setParent(holder);
+    frame->show();
     settle();
     EXPECT_EQ(form.fraPanel.area(), (Area{900, 300, 4500, 600}));
     holder->move(60, 0);

@@ -21,9 +21,8 @@ QImage pictureOf(QWidget& widget) {
 
 TEST_F(Dashboard, HasAWidgetForEveryControlThatIsToBeSeen) {
     open();
-    // Only carry pictures.
-    const std::set<std::string> unseen = {"picTest",  "RoomPic",  "Frame1",
-                                          "HScroll1", "VScroll1", "fraMapDisplay"};
+    // They only carry a picture.
+    const std::set<std::string> unseen = {"picTest", "RoomPic"};
     std::vector<std::string> missing;
     for (const Control* control : bench.gui.controls()) {
         if (dynamic_cast<const Timer*>(control) != nullptr || unseen.contains(control->name())) continue;
@@ -39,6 +38,27 @@ TEST_F(Dashboard, HasEveryGroup) {
                              "fra(9)", "fra(10)", "fra(11)", "fra(12)", "fra(13)", "frmMotor", "fraNetwork",
                              "fraBat", "fraSetting", "fraSensor", "fraMapDisplay"})
         EXPECT_NE(window->findChild<QWidget*>(name), nullptr) << name;
+}
+
+TEST_F(Dashboard, GivesEveryGroupANameToBeReadAloud) {
+    open();
+    for (const char* name : {"fra(0)", "fra(1)", "fra(2)", "fra(5)", "fra(9)", "fra(13)"}) {
+        EXPECT_FALSE(find(name).accessibleName().isEmpty()) << name;
+        EXPECT_NE(find(name).accessibleName(), name);
+    }
+}
+
+TEST_F(Dashboard, TellsWhereTheFloorPlanStandsAlsoWhenOnlyWhatHoldsItHasMoved) {
+    open(1280, 764);
+    for (const int height : {900, 764, 1100}) {
+        window->resize(1280, height);
+        settle();
+        const QWidget& plan = find("fraMapDisplay");
+        const QPoint place = plan.mapTo(window.get(), QPoint(0, 0));
+        const Area& told = bench.gui.fraMapDisplay.area();
+        EXPECT_EQ(told.left, place.x() * kTwipsPerPixel);
+        EXPECT_EQ(told.top, place.y() * kTwipsPerPixel);
+    }
 }
 
 TEST_F(Dashboard, OpensAndClosesTheSettingsByItsKey) {

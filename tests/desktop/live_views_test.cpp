@@ -166,7 +166,7 @@ TEST_F(LiveViewsTest, ItsShortcutDetachesAndBringsBackWhateverTheKeyReads) {
     views.show();
     for (const bool detached : {true, false}) {
         views.activateWindow();
-        deliverQueued();
+        QCoreApplication::processEvents();
         QTest::keyClick(&views, Qt::Key_L, Qt::ControlModifier);
         EXPECT_EQ(views.detached(), detached);
     }

@@ -21,6 +21,7 @@ constexpr int kOverviewHeight = 64;
 
 LeftColumn::LeftColumn(Placing& place, MapControls& map, QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("fra(2)"));
+    setAccessibleName(QString::fromStdString(frameName("fra(2)")));
     groups_ = {drives(place), power(place), network(place), overview(place, map)};
     auto* all = new QGridLayout(this);
     all->setContentsMargins(0, 0, 0, 0);

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "console/control_words.h"
 #include "desktop/theme/theme.h"
 #include "desktop/widgets/shadow_label.h"
 
@@ -11,7 +12,7 @@ namespace quorrin {
 Group::Group(const QString& name, const QString& title, QWidget* parent) : QWidget(parent) {
     const Theme& theme = currentTheme();
     setObjectName(name);
-    setAccessibleName(title.isEmpty() ? name : title);
+    setAccessibleName(QString::fromStdString(frameName(name.toStdString())));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(theme.space, theme.gap + 1, theme.space, theme.space - 2);
     column->setSpacing(theme.gap);
