@@ -20,8 +20,10 @@ namespace {
 
 constexpr int kDrawingMs = 100;
 constexpr QSize kUsualSize(1440, 860);  // logical pixels
-constexpr int kSmallestPicture = 120;   // logical pixels
-constexpr int kStripPercent = 17;       // of the window's height
+// What a window manager may put around it.
+constexpr QSize kWindowFrame(16, 48);
+constexpr int kSmallestPicture = 120;  // logical pixels
+constexpr int kStripPercent = 17;      // of the window's height
 constexpr int kMarkSide = 30;
 
 QString text(const std::string& words) {
@@ -39,8 +41,8 @@ QAction* entry(QMenu& menu, MenuEntry name, IconName picture) {
 }  // namespace
 
 MainWindow::MainWindow(frmGUI& gui, const PublicValues& values, const Form& panel, const OperatorActs& acts,
-                       QWidget* views)
-    : gui_(gui), values_(values), panelForm_(panel), make_(acts, gui, stationImages()) {
+                       LiveViews* views)
+    : gui_(gui), values_(values), panelForm_(panel), make_(acts, gui, stationImages()), views_(views) {
     setObjectName(text(gui.name()));
     setWindowTitle(text(quorrin::windowTitle(gui.name())));
     Placing place(make_, gui, acts);
@@ -58,12 +60,14 @@ MainWindow::MainWindow(frmGUI& gui, const PublicValues& values, const Form& pane
     middle->setContentsMargins(0, 0, 0, 0);
     middle->setSpacing(theme.gap);
     middle->addWidget(left_, 0);
-    middle->addWidget(camera(place), 1);
+    // The control panel comes up with its corner in the middle of the plan, so the plan has the panel's room
+    // to its right.
     middle->addWidget(plan(place), 1);
+    middle->addWidget(camera(place), 1);
     all->addWidget(body_, 1);
     all->addWidget(new KeyBar(place, gui.cmdChEn));
 
-    resize(kUsualSize.boundedTo(screen()->availableSize()));
+    resize(kUsualSize.boundedTo(screen()->availableSize() - kWindowFrame));
 
     setting_ = std::make_unique<SettingPanel>(place, gui.fraSetting, acts, this);
     sensor_ = std::make_unique<SensorPanel>(place, gui.fraSensor, gui.cmdCloseSensor, acts, views, this);
@@ -114,6 +118,12 @@ QMenu* MainWindow::menu() {
     QAction* const engineering = entry(*made, MenuEntry::engineeringView, IconName::engineering);
     QAction* const light = entry(*made, MenuEntry::lightTheme, IconName::theme);
     QAction* const dark = entry(*made, MenuEntry::darkTheme, IconName::theme);
+    if (views_ != nullptr) {
+        QAction* const away = entry(*made, MenuEntry::detachLiveView, IconName::engineering);
+        QAction* const back = entry(*made, MenuEntry::attachLiveView, IconName::engineering);
+        QObject::connect(away, &QAction::triggered, views_, [this] { views_->detach(); });
+        QObject::connect(back, &QAction::triggered, views_, [this] { views_->attach(); });
+    }
     QObject::connect(engineering, &QAction::triggered, this, [this] { sensor_->toggle(); });
     QObject::connect(light, &QAction::triggered, this, [] { applyTheme(*qApp, lightTheme()); });
     QObject::connect(dark, &QAction::triggered, this, [] { applyTheme(*qApp, darkTheme()); });
