@@ -41,8 +41,8 @@ QAction* entry(QMenu& menu, MenuEntry name, IconName picture) {
 }  // namespace
 
 MainWindow::MainWindow(frmGUI& gui, const PublicValues& values, const Form& panel, const OperatorActs& acts,
-                       LiveViews* views)
-    : gui_(gui), values_(values), panelForm_(panel), make_(acts, gui, stationImages()), views_(views) {
+                       QWidget* views)
+    : gui_(gui), values_(values), panelForm_(panel), make_(acts, gui, stationImages()) {
     setObjectName(text(gui.name()));
     setWindowTitle(text(quorrin::windowTitle(gui.name())));
     Placing place(make_, gui, acts);
@@ -118,12 +118,6 @@ QMenu* MainWindow::menu() {
     QAction* const engineering = entry(*made, MenuEntry::engineeringView, IconName::engineering);
     QAction* const light = entry(*made, MenuEntry::lightTheme, IconName::theme);
     QAction* const dark = entry(*made, MenuEntry::darkTheme, IconName::theme);
-    if (views_ != nullptr) {
-        QAction* const away = entry(*made, MenuEntry::detachLiveView, IconName::engineering);
-        QAction* const back = entry(*made, MenuEntry::attachLiveView, IconName::engineering);
-        QObject::connect(away, &QAction::triggered, views_, [this] { views_->detach(); });
-        QObject::connect(back, &QAction::triggered, views_, [this] { views_->attach(); });
-    }
     QObject::connect(engineering, &QAction::triggered, this, [this] { sensor_->toggle(); });
     QObject::connect(light, &QAction::triggered, this, [] { applyTheme(*qApp, lightTheme()); });
     QObject::connect(dark, &QAction::triggered, this, [] { applyTheme(*qApp, darkTheme()); });

@@ -18,7 +18,6 @@
 #include "desktop/forms/setting_panel.h"
 #include "desktop/forms/status_strip.h"
 #include "desktop/operator_acts.h"
-#include "desktop/views/live_views.h"
 #include "session/record/public_values.h"
 
 namespace quorrin {
@@ -27,7 +26,7 @@ class MainWindow : public QWidget {
   public:
     // `panel` is the control panel's form. `views` goes into the engineering panel; it may be null.
     MainWindow(frmGUI& gui, const PublicValues& values, const Form& panel, const OperatorActs& acts,
-               LiveViews* views = nullptr);
+               QWidget* views = nullptr);
     ~MainWindow() override;
 
     // Draws what is to be told at a glance, now.
@@ -50,7 +49,6 @@ class MainWindow : public QWidget {
     const PublicValues& values_;
     const Form& panelForm_;
     ControlFactory make_;
-    LiveViews* views_;
     StatusStrip* strip_;
     LeftColumn* left_;
     QWidget* body_;
