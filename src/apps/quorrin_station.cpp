@@ -5,6 +5,7 @@
 // start, 3 on a program error.
 #include <QApplication>
 #include <QDesktopServices>
+#include <QPalette>
 #include <QUrl>
 #include <optional>
 
@@ -87,7 +88,8 @@ int main(QApplication& application) {
     // Windows come and go; the station ends by its own routine.
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("quorrin-station"));
-    applyTheme(application, lightTheme());
+    // As the desktop has it; not remembered.
+    applyTheme(application, themeOf(QApplication::palette()));
     Terminal terminal;
     RealStation real;
     if (!real.missingFolder.empty()) return cannotStart(terminal, cannotMakeFolder(real.missingFolder));

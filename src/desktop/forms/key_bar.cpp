@@ -5,6 +5,7 @@
 #include "console/control_words.h"
 #include "desktop/forms/status_strip.h"
 #include "desktop/theme/theme.h"
+#include "desktop/widgets/command.h"
 
 namespace quorrin {
 
@@ -12,6 +13,7 @@ namespace {
 
 // Keys that are used all the time are higher than others, in text lines.
 constexpr double kKeyLines = 2.2;
+constexpr int kKeyIcon = 24;  // logical pixels
 
 }  // namespace
 
@@ -24,6 +26,7 @@ KeyBar::KeyBar(Placing& place, CommandButton& modeKey, QWidget* parent)
     keys->setSpacing(currentTheme().space);
     for (int i = 0; i < keys->count(); ++i) {
         QWidget* const key = keys->itemAt(i)->widget();
+        if (auto* command = dynamic_cast<Command*>(key)) command->setIconSize({kKeyIcon, kKeyIcon});
         key->setMinimumHeight(static_cast<int>(kKeyLines * key->fontMetrics().height()));
         key->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
         keys->setStretch(i, 1);

@@ -127,7 +127,7 @@ QMenu* MainWindow::menu() {
 }
 
 QWidget* MainWindow::camera(Placing& place) {
-    QWidget* const picture = place.picture("imgCamera", kSmallestPicture);
+    QWidget* const picture = place.picture("imgCamera", kSmallestPicture, IconName::camera);
     QVBoxLayout* const contents = column({picture});
     contents->setStretch(0, 1);
     contents->addWidget(place.key("cmdZoomCamera", IconName::zoom), 0, Qt::AlignRight);

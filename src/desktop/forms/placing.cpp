@@ -13,7 +13,17 @@ namespace quorrin {
 
 namespace {
 
-constexpr int kEdges = 14;  // logical pixels beside the writing of a box
+constexpr int kEmptySide = 56;
+constexpr int kCaptionDrop = 3;  // a caption's shadow reaches below it
+constexpr int kEdges = 14;       // logical pixels beside the writing of a box
+
+// A text with a shadow, in line with the boxes beside it.
+QLayout* inLine(QWidget* text) {
+    auto* const place = new QVBoxLayout;
+    place->setContentsMargins(0, kCaptionDrop, 0, 0);
+    place->addWidget(text);
+    return place;
+}
 
 void close(QLayout& layout) {
     layout.setContentsMargins(0, 0, 0, 0);
@@ -62,8 +72,13 @@ QWidget* Placing::choice(const std::string& name) {
     return made;
 }
 
-QWidget* Placing::picture(const std::string& name, int least) {
-    QWidget* const made = make_(name);
+QWidget* Placing::picture(const std::string& name, int least, IconName empty) {
+    auto* const made = dynamic_cast<PictureView*>(make_(name));
+    made->drawEmpty = [empty](QPainter& painter, const QRect& place) {
+        QRect square(0, 0, kEmptySide, kEmptySide);
+        square.moveCenter(place.center());
+        drawIcon(painter, square, empty, currentTheme().outline);
+    };
     made->setMinimumSize(least * 4 / 3, least);
     made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
     made->setBackgroundRole(QPalette::Base);
@@ -90,8 +105,12 @@ QWidget* Placing::captioned(QGridLayout& grid, int row, int column, const std::s
 }
 
 void Placing::captioned(QGridLayout& grid, int row, int column, const std::string& name, QWidget* made) {
-    grid.addWidget(caption(name), row, column, Qt::AlignLeft | Qt::AlignVCenter);
-    grid.addWidget(made, row, column + 1);
+    grid.addLayout(inLine(caption(name)), row, column, Qt::AlignLeft | Qt::AlignVCenter);
+    if (dynamic_cast<ShadowLabel*>(made) != nullptr) {
+        grid.addLayout(inLine(made), row, column + 1, Qt::AlignVCenter);
+    } else {
+        grid.addWidget(made, row, column + 1);
+    }
 }
 
 QWidget* Placing::suffix(const std::string& name) {

@@ -36,8 +36,9 @@ class Placing {
     QWidget* readOut(const std::string& name, int characters);
     // A check box or option button that carries no caption of its own.
     QWidget* choice(const std::string& name);
-    // A place for a picture, with a ground of its own, that takes what room there is.
-    QWidget* picture(const std::string& name, int least);
+    // A place for a picture, with a ground of its own, that takes what room there is; the icon stands in it
+    // until there is a picture.
+    QWidget* picture(const std::string& name, int least, IconName empty);
     // A picture of the form that is always the same icon.
     QWidget* icon(const std::string& name, IconName picture, int side);
     // A button with a picture beside its caption.

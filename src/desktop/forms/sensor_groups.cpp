@@ -1,5 +1,7 @@
 #include "desktop/forms/sensor_groups.h"
 
+#include "desktop/widgets/command.h"
+
 namespace quorrin {
 
 namespace {
@@ -20,6 +22,12 @@ std::vector<std::string> elements(const std::string& name, int first, int last) 
     std::vector<std::string> names;
     for (int i = first; i <= last; ++i) names.push_back(name + "(" + std::to_string(i) + ")");
     return names;
+}
+
+QWidget* stopKey(Placing& place, const std::string& name, IconName picture) {
+    QWidget* const made = place.key(name, picture);
+    if (auto* command = dynamic_cast<Command*>(made)) command->setLookKind(LookKind::danger);
+    return made;
 }
 
 }  // namespace
@@ -60,8 +68,8 @@ Group* taskGroup(Placing& place) {
     QVBoxLayout* const contents = column({});
     QGridLayout* const keys = grid();
     keys->addWidget(place.key("cmdStart", IconName::play), 0, 0);
-    keys->addWidget(place.key("cmdStop", IconName::pause), 0, 1);
-    keys->addWidget(place.key("Stoprobot", IconName::stop), 1, 0);
+    keys->addWidget(stopKey(place, "cmdStop", IconName::pause), 0, 1);
+    keys->addWidget(stopKey(place, "Stoprobot", IconName::stop), 1, 0);
     keys->addWidget(place.key("cmdTOB", IconName::tick), 1, 1);
     keys->addWidget(place.key("cmdTakePhoto", IconName::camera), 2, 0);
     keys->addWidget(place.key("cmdCharge", IconName::charge), 2, 1);

@@ -65,7 +65,7 @@ Group* reviewGroup(Placing& place) {
     contents->addWidget(place.caption("cobAvailDate"));
     contents->addWidget(place.control("cobAvailDate", 10));
     QWidget* const list = place.control("lstPlayVideo", 12);
-    QWidget* const picture = place.picture("picPlayVideo", kSmallestReview);
+    QWidget* const picture = place.picture("picPlayVideo", kSmallestReview, IconName::play);
     list->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     auto* pictures = row({list, picture});
     pictures->setStretch(1, 1);

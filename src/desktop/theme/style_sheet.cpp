@@ -37,8 +37,8 @@ QScrollBar::handle:hover { background: {muted}; }
 QScrollBar:focus { background: {focus}; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
-QToolButton { background: {surface}; color: {text}; border: 1px solid {line}; border-radius: 4px; padding: 3px 8px; }
-QToolButton:hover { border-color: {outline}; }
+QToolButton { background: {surface}; color: {text}; border: 1px solid {outline}; border-radius: 4px; padding: 3px 8px; }
+QToolButton:hover { border-color: {text}; }
 QToolButton:focus { border: 2px solid {focus}; padding: 2px 7px; }
 QToolButton::menu-indicator { image: none; width: 0; }
 QPushButton { background: {field}; color: {text}; border: 1px solid {outline}; border-radius: 4px; padding: 4px 14px; }

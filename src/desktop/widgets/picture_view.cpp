@@ -80,6 +80,8 @@ void PictureView::paintEvent(QPaintEvent*) {
         QRect square(0, 0, side, side);
         square.moveCenter(rect().center());
         images_(painter, square, number_);
+    } else if (drawEmpty) {
+        drawEmpty(painter, rect());
     }
 }
 

@@ -33,6 +33,9 @@ class PictureView : public QWidget {
     void clear();
     const QImage& image() const { return image_; }
 
+    // What stands in the place of a picture that is not there yet.
+    std::function<void(QPainter& painter, const QRect& place)> drawEmpty;
+
     QSize sizeHint() const override;
 
   protected:
