@@ -16,11 +16,12 @@ namespace quorrin {
 namespace {
 
 struct CommandWidget : testing::Test {
+    // Before the widgets: a button that goes while it is pressed still tells of its release.
+    std::string told;
     QWidget window;
     QVBoxLayout column{&window};
     Command& button = *new Command(&window);
     QLineEdit& box = *new QLineEdit(&window);
-    std::string told;
 
     void SetUp() override {
         button.setCaption("Start");
