@@ -77,16 +77,13 @@ class PaintSession {
         station_.gui.fraSensor.setVisible(true);
         for (QWidget* widget : QApplication::allWidgets())
             if (auto* const views = dynamic_cast<LiveViews*>(widget)) views_ = views;
-        if (views_ == nullptr) {
-            beside_ = std::make_unique<LiveViews>(liveSource(station_, real_.time));
-            views_ = beside_.get();
-            views_->show();
-        }
+        if (views_ == nullptr) return QCoreApplication::exit();
         views_->detach();
         views_->ownWindow()->resize(1240, 720);
     }
 
     int report() const {
+        if (openedAt_ > 0 && views_ == nullptr) return fail("the engineering panel has no live views");
         if (application_.paints.empty() || tick_.late.empty()) return fail("it did not come to wander");
         if (!viewsRan_) return fail("the views were not open to the end");
         const auto& paints = application_.paints;
@@ -130,7 +127,6 @@ class PaintSession {
                       {},
                       &real_.recordedSticks}};
     StationWindows windows_{station_, OperatorActs(real_.time)};
-    std::unique_ptr<LiveViews> beside_;  // where the panel has none
     LiveViews* views_ = nullptr;
     TimerMM look_{real_.clock, [this] { look(); }};
     double openedAt_ = 0;

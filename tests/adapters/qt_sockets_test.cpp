@@ -278,29 +278,49 @@ class NoDescriptors {
 
 TEST_F(QtSocketsTest, WithoutDescriptorsCallersAreTurnedAwayAtLittleCostAndServedOnceThereAreSome) {
     listener->listen();
+    // All that happens without descriptors happens once while there are some, and is judged afterwards: the
+    // sanitizers need a few themselves when they meet a type for the first time.
+    auto twin = sockets.create("wsk2", 0);
+    twin->setLocalPort(kPort);
+    bool twinFailed = false;
+    twin->onError = [&] { twinFailed = true; };
+    twin->listen();
+    PlainClient first;
+    ASSERT_TRUE(first.connect());
+    ASSERT_TRUE(waitForReal([&] { return element->state() == SocketState::connected && twinFailed; }));
+    element->close();
+    log.clear();
     std::vector<PlainClient> flood(20);
     PlainClient later;
-    // Qt's own loop, which sleeps where there is nothing to do. Once round while there still are descriptors:
-    // the sanitizers need some at the first use of a type.
+    // Qt's own loop, which sleeps where there is nothing to do.
     QEventLoop loop;
     const auto goRound = [&loop](int ms) {
         QTimer::singleShot(ms, &loop, &QEventLoop::quit);
         loop.exec();
     };
     goRound(0);
+    bool allConnected = true;
+    double share = 0;
+    std::int64_t shedInASecond = 0;
+    bool firstEnded = false;
+    bool allShed = false;
     {
         const NoDescriptors none;
-        for (PlainClient& one : flood) ASSERT_TRUE(one.connect());
+        for (PlainClient& one : flood) allConnected = one.connect() && allConnected;
         const double before = processorSeconds();
         const std::int64_t begin = time.nowMs();
         goRound(1000);
-        const double seconds = static_cast<double>(time.nowMs() - begin) / 1000;
-        EXPECT_LT((processorSeconds() - before) / seconds, 0.05);
-        EXPECT_GE(sockets.shed(), 5);
-        EXPECT_THAT(log, IsEmpty());
-        EXPECT_TRUE(flood[0].ended());
-        ASSERT_TRUE(waitForReal([&] { return sockets.shed() == 20; }));
+        share = (processorSeconds() - before) * 1000 / static_cast<double>(time.nowMs() - begin);
+        shedInASecond = sockets.shed();
+        firstEnded = flood[0].ended();
+        allShed = waitForReal([&] { return sockets.shed() == 20; });
     }
+    EXPECT_TRUE(allConnected);
+    EXPECT_LT(share, 0.05);
+    EXPECT_GE(shedInASecond, 5);
+    EXPECT_TRUE(firstEnded);
+    EXPECT_TRUE(allShed);
+    EXPECT_THAT(log, IsEmpty());
     const std::int64_t begin = time.nowMs();
     ASSERT_TRUE(later.connect());
     ASSERT_TRUE(waitForReal([&] { return element->state() == SocketState::connected; }));
