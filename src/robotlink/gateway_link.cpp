@@ -183,7 +183,7 @@ void GatewayLink::RequestImage() {
 
 void GatewayLink::SaveFrameToFile(const std::string& path) {
     if (image_.width() == 0) return;
-    files_.writeWhole(path, encodeBmp24(image_.width(), image_.height(), image_.pixels()));
+    files_.writeVolatile(path, encodeBmp24(image_.width(), image_.height(), image_.pixels()));
 }
 
 void GatewayLink::PlaySoundFile(const std::string& path) {

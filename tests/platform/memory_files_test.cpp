@@ -69,5 +69,31 @@ TEST(MemoryFiles, CopiesRemovesAndListsByFolder) {
     EXPECT_TRUE(files.filesIn("/none").empty());
 }
 
+TEST(MemoryFiles, APassingFileIsAFileLikeAnyOther) {
+    MemoryFiles files;
+    EXPECT_FALSE(files.writeVolatile("/nowhere/a", "x"));
+    files.put("/a/one", "old");
+    EXPECT_TRUE(files.writeVolatile("/a/one", "new"));
+    EXPECT_EQ(files.read("/a/one"), "new");
+    files.setDiskFull(true);
+    EXPECT_FALSE(files.writeVolatile("/a/one", "newer"));
+    EXPECT_EQ(files.read("/a/one"), "new");
+}
+
+TEST(MemoryFiles, StampsStayUntilTheFileIsWrittenAndItsModeUntilItIsRemoved) {
+    MemoryFiles files;
+    EXPECT_EQ(files.stampsOf("/a/one"), std::nullopt);
+    EXPECT_FALSE(files.putBackStamps("/a/one", {1, 2, 0600}));
+    files.put("/a/one", "1");
+    EXPECT_EQ(files.stampsOf("/a/one"), MemoryFiles::kFreshStamps);
+    EXPECT_TRUE(files.putBackStamps("/a/one", {1, 2, 0600}));
+    EXPECT_EQ(files.stampsOf("/a/one"), (FileStamps{1, 2, 0600}));
+    files.writeWhole("/a/one", "2");
+    EXPECT_EQ(files.stampsOf("/a/one"), (FileStamps{0, 0, 0600}));
+    files.remove("/a/one");
+    files.put("/a/one", "3");
+    EXPECT_EQ(files.stampsOf("/a/one"), MemoryFiles::kFreshStamps);
+}
+
 }  // namespace
 }  // namespace quorrin

@@ -1,6 +1,8 @@
 #include "platform/host/posix_files.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,6 +10,7 @@
 #include <csignal>
 #include <cstdlib>
 
+#include "platform/host/file_handle.h"
 #include "support/temp_folder.h"
 
 namespace quorrin {
@@ -103,6 +106,58 @@ TEST_F(PosixFilesTest, AWriteThatIsCutShortLeavesTheOldFileAndNothingElse) {
     EXPECT_FALSE(written);
     EXPECT_EQ(files.read(path("x.ini")), "old");
     EXPECT_EQ(files.filesIn(folder.path()), std::vector<std::string>{"x.ini"});
+}
+
+// Whoever has the file open while it is replaced goes on reading the whole of the old one.
+TEST_F(PosixFilesTest, AReaderOfAPassingFileSeesTheOldOneOrTheNewOneAndNoMixture) {
+    ASSERT_TRUE(files.writeVolatile(path("x.bmp"), std::string(100'000, 'o')));
+    const FileHandle reader(::open(path("x.bmp").c_str(), O_RDONLY | O_CLOEXEC));
+    char first[10];
+    ASSERT_EQ(::read(reader.get(), first, sizeof first), 10);
+    EXPECT_TRUE(files.writeVolatile(path("x.bmp"), std::string(50'000, 'n')));
+    std::string rest(200'000, ' ');
+    rest.resize(static_cast<std::size_t>(::read(reader.get(), rest.data(), rest.size())));
+    EXPECT_EQ(rest, std::string(99'990, 'o'));
+    EXPECT_EQ(files.read(path("x.bmp")), std::string(50'000, 'n'));
+    EXPECT_EQ(files.filesIn(folder.path()), std::vector<std::string>{"x.bmp"});
+}
+
+TEST_F(PosixFilesTest, APassingFileThatCannotBeWrittenIsTold) {
+    std::vector<std::string> told;
+    files.onWriteFailed = [&](const std::string& name) { told.push_back(name); };
+    EXPECT_FALSE(files.writeVolatile(path("no/x.bmp"), "one"));
+    EXPECT_EQ(told, std::vector<std::string>{path("no/x.bmp")});
+}
+
+TEST_F(PosixFilesTest, PutsBackTheTimesAndThePermissionsOfAFile) {
+    ASSERT_TRUE(files.writeWhole(path("a"), "one"));
+    const FileStamps old{1'000'000'000'123'456'789, 1'100'000'000'987'654'321, 0640};
+    EXPECT_TRUE(files.putBackStamps(path("a"), old));
+    EXPECT_EQ(files.stampsOf(path("a")), old);
+    EXPECT_EQ(files.read(path("a")), "one");
+}
+
+TEST_F(PosixFilesTest, ATimeBefore1970ComesBackToo) {
+    ASSERT_TRUE(files.writeWhole(path("a"), "one"));
+    const FileStamps old{-1'500'000'000, -1, 0600};
+    EXPECT_TRUE(files.putBackStamps(path("a"), old));
+    EXPECT_EQ(files.stampsOf(path("a")), old);
+}
+
+TEST_F(PosixFilesTest, AFileThatSomebodyElseHoldsForWritingKeepsItsStamps) {
+    ASSERT_TRUE(files.writeWhole(path("a"), "one"));
+    const FileHandle other(::open(path("a").c_str(), O_WRONLY | O_CLOEXEC));
+    ASSERT_EQ(::flock(other.get(), LOCK_SH), 0);
+    const auto before = files.stampsOf(path("a"));
+    EXPECT_FALSE(files.putBackStamps(path("a"), {1, 2, 0400}));
+    EXPECT_EQ(files.stampsOf(path("a")), before);
+}
+
+TEST_F(PosixFilesTest, NoStampsAreThereOfWhatIsNoFile) {
+    EXPECT_EQ(files.stampsOf(path("none")), std::nullopt);
+    EXPECT_EQ(files.stampsOf(folder.path()), std::nullopt);
+    EXPECT_FALSE(files.putBackStamps(path("none"), {1, 2, 0600}));
+    EXPECT_FALSE(files.fileExists(path("none")));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -32,7 +33,7 @@ std::string followed(const std::string& path) {
     return real ? std::string(real.get()) : path;
 }
 
-bool writeAll(int descriptor, const std::string& content) {
+bool writeAll(int descriptor, std::string_view content) {
     std::size_t done = 0;
     while (done < content.size()) {
         const ssize_t step = ::write(descriptor, content.data() + done, content.size() - done);
@@ -49,6 +50,16 @@ mode_t permissionsFor(const std::string& path) {
     const mode_t mask = ::umask(0);
     ::umask(mask);
     return 0666 & ~mask;
+}
+
+std::int64_t nanoseconds(const timespec& time) {
+    return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+timespec timeOf(std::int64_t ns) {
+    constexpr std::int64_t kSecond = 1'000'000'000;
+    const std::int64_t rest = (ns % kSecond + kSecond) % kSecond;
+    return {static_cast<time_t>((ns - rest) / kSecond), static_cast<long>(rest)};
 }
 
 void bringFolderToDisk(const std::string& folder) {
@@ -81,24 +92,33 @@ std::optional<std::string> PosixFiles::read(const std::string& path) {
 }
 
 bool PosixFiles::writeWhole(const std::string& path, const std::string& content) {
-    if (replace(path, content)) return true;
+    return replaceOrTell(path, content, Reach::disk);
+}
+
+bool PosixFiles::writeVolatile(const std::string& path, std::string_view content) {
+    return replaceOrTell(path, content, Reach::reader);
+}
+
+bool PosixFiles::replaceOrTell(const std::string& path, std::string_view content, Reach reach) {
+    if (replace(path, content, reach)) return true;
     if (onWriteFailed) onWriteFailed(path);
     return false;
 }
 
-bool PosixFiles::replace(const std::string& path, const std::string& content) {
+bool PosixFiles::replace(const std::string& path, std::string_view content, Reach reach) {
     const std::string target = followed(path);
     std::string temporary = target + ".XXXXXX";
     FileHandle handle(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!handle.valid()) return false;
     const bool written = writeAll(handle.get(), content) &&
-                         ::fchmod(handle.get(), permissionsFor(target)) == 0 && ::fsync(handle.get()) == 0;
+                         ::fchmod(handle.get(), permissionsFor(target)) == 0 &&
+                         (reach == Reach::reader || ::fsync(handle.get()) == 0);
     const bool closed = handle.closeNow();
     if (!written || !closed || ::rename(temporary.c_str(), target.c_str()) != 0) {
         ::unlink(temporary.c_str());
         return false;
     }
-    bringFolderToDisk(folderOf(target));
+    if (reach == Reach::disk) bringFolderToDisk(folderOf(target));
     return true;
 }
 
@@ -130,6 +150,21 @@ std::vector<std::string> PosixFiles::filesIn(const std::string& folder) {
     }
     std::sort(names.begin(), names.end());
     return names;
+}
+
+std::optional<FileStamps> PosixFiles::stampsOf(const std::string& path) {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    return FileStamps{nanoseconds(status.st_atim), nanoseconds(status.st_mtim), status.st_mode & 07777};
+}
+
+bool PosixFiles::putBackStamps(const std::string& path, const FileStamps& stamps) {
+    FileHandle handle(::open(path.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK));
+    if (!handle.valid() || ::flock(handle.get(), LOCK_EX | LOCK_NB) != 0) return false;
+    const timespec times[2] = {timeOf(stamps.accessNs), timeOf(stamps.writeNs)};
+    const bool timesBack = ::futimens(handle.get(), times) == 0;
+    const bool closed = handle.closeNow();
+    return ::chmod(path.c_str(), stamps.mode) == 0 && timesBack && closed;
 }
 
 }  // namespace quorrin

@@ -29,8 +29,31 @@ std::optional<std::string> MemoryFiles::read(const std::string& path) {
 }
 
 bool MemoryFiles::writeWhole(const std::string& path, const std::string& content) {
+    return writeVolatile(path, content);
+}
+
+bool MemoryFiles::writeVolatile(const std::string& path, std::string_view content) {
     if (full_ || !folderExists(folderOf(path)) || folderExists(path)) return false;
     files_[path] = content;
+    if (const auto old = stamps_.find(path); old != stamps_.end())
+        old->second = {kFreshStamps.accessNs, kFreshStamps.writeNs, old->second.mode};
+    return true;
+}
+
+bool MemoryFiles::remove(const std::string& path) {
+    stamps_.erase(path);
+    return files_.erase(path) != 0;
+}
+
+std::optional<FileStamps> MemoryFiles::stampsOf(const std::string& path) {
+    if (!fileExists(path)) return std::nullopt;
+    const auto found = stamps_.find(path);
+    return found == stamps_.end() ? kFreshStamps : found->second;
+}
+
+bool MemoryFiles::putBackStamps(const std::string& path, const FileStamps& stamps) {
+    if (!fileExists(path)) return false;
+    stamps_[path] = stamps;
     return true;
 }
 
