@@ -32,6 +32,11 @@ quorrin_library(quorrin_wire FOLDERS wire LINK quorrin_base quorrin_proto)
 quorrin_library(quorrin_station
     FOLDERS session/record navigation/math robotlink navigation sound imaging remote console session
     LINK quorrin_wire quorrin_base)
+# The camera's pictures.
+find_path(TURBOJPEG_INCLUDE_DIR turbojpeg.h REQUIRED)
+find_library(TURBOJPEG_LIBRARY turbojpeg REQUIRED)
+target_include_directories(quorrin_station SYSTEM PRIVATE ${TURBOJPEG_INCLUDE_DIR})
+target_link_libraries(quorrin_station PUBLIC ${TURBOJPEG_LIBRARY})
 
 quorrin_library(quorrin_host FOLDERS platform/host LINK quorrin_base)
 quorrin_library(quorrin_virtual FOLDERS platform/virtual LINK quorrin_base)
