@@ -3,12 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/rounding.h"
+
 namespace quorrin {
 
 namespace {
 
 int mixedPart(int first, int second, int percent) {
-    return first + (second - first) * percent / 100;
+    return static_cast<int>(roundHalfEven(first + (second - first) * percent / 100.0));
 }
 
 // Relative luminance of a part of an sRGB colour.

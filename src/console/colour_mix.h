@@ -37,7 +37,8 @@ struct ColourParts {
 };
 ColourParts partsOf(Colour colour);
 
-// The colour that lies `percent` of the way from the first to the second. More than 100 counts as 100.
+// The colour that lies `percent` of the way from the first to the second, its parts rounded half to even.
+// More than 100 counts as 100.
 Colour mixedColour(Colour first, Colour second, int percent);
 
 // The ratio of the lighter to the darker of two colours as a person sees them, 1 to 21. Texts want 4.5.

@@ -25,6 +25,12 @@ TEST(ColourMix, EachPartGoesItsOwnWay) {
     EXPECT_EQ(mixedColour(kOne, kTwo, 30), rgb(40, 170, 75));
 }
 
+TEST(ColourMix, APartThatFallsBetweenTwoNumbersIsRoundedHalvesToTheEvenOne) {
+    EXPECT_EQ(mixedColour(rgb(0, 1, 3), rgb(1, 2, 4), 50), rgb(0, 2, 4));
+    EXPECT_EQ(mixedColour(rgb(10, 0, 100), rgb(3, 255, 0), 50), rgb(6, 128, 50));
+    EXPECT_EQ(mixedColour(rgb(0, 0, 0), rgb(10, 10, 10), 38), rgb(4, 4, 4));
+}
+
 TEST(ColourMix, APlainColourStaysAsItIs) {
     EXPECT_EQ(plainColour(kOne, {{0x12, kTwo}}), kOne);
 }
