@@ -2,27 +2,31 @@
 
 namespace quorrin {
 
+namespace {
+
+// The names of the stored form; the one list for reading and writing.
+template <typename Properties, typename Each>
+void eachProperty(Properties& properties, Each each) {
+    const CommandButtonProperties fresh;
+    each("Caption", properties.caption, fresh.caption);
+    each("Enabled", properties.enabled, fresh.enabled);
+    each("Font", properties.font, fresh.font);
+    each("FontColor", properties.fontColor, fresh.fontColor);
+    each("ButtonLook", properties.buttonLook, fresh.buttonLook);
+    each("Icon", properties.icon, fresh.icon);
+    each("IconAlign", properties.iconAlign, fresh.iconAlign);
+}
+
+}  // namespace
+
 CommandButtonProperties readCommandButton(const PropertyBag& bag) {
     CommandButtonProperties properties;
-    properties.caption = bag.read("Caption", properties.caption);
-    properties.enabled = bag.read("Enabled", properties.enabled);
-    properties.font = bag.read("Font", properties.font);
-    properties.fontColor = bag.read("FontColor", properties.fontColor);
-    properties.buttonLook = bag.read("ButtonLook", properties.buttonLook);
-    properties.icon = bag.read("Icon", properties.icon);
-    properties.iconAlign = bag.read("IconAlign", properties.iconAlign);
+    eachProperty(properties, FromBag{bag});
     return properties;
 }
 
 void writeCommandButton(PropertyBag& bag, const CommandButtonProperties& properties) {
-    const CommandButtonProperties fresh;
-    bag.write("Caption", properties.caption, fresh.caption);
-    bag.write("Enabled", properties.enabled, fresh.enabled);
-    bag.write("Font", properties.font, fresh.font);
-    bag.write("FontColor", properties.fontColor, fresh.fontColor);
-    bag.write("ButtonLook", properties.buttonLook, fresh.buttonLook);
-    bag.write("Icon", properties.icon, fresh.icon);
-    bag.write("IconAlign", properties.iconAlign, fresh.iconAlign);
+    eachProperty(properties, IntoBag{bag});
 }
 
 }  // namespace quorrin

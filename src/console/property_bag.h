@@ -50,4 +50,23 @@ class PropertyBag {
     std::map<std::string, std::variant<std::string, bool, std::int32_t, FontChoice>> values_;
 };
 
+// For a control's list of properties, which is the same for reading and for writing.
+struct FromBag {
+    const PropertyBag& bag;
+
+    template <typename T>
+    void operator()(const char* name, T& value, const T& byDefault) const {
+        value = bag.read(name, byDefault);
+    }
+};
+
+struct IntoBag {
+    PropertyBag& bag;
+
+    template <typename T>
+    void operator()(const char* name, const T& value, const T& byDefault) const {
+        bag.write(name, value, byDefault);
+    }
+};
+
 }  // namespace quorrin

@@ -49,34 +49,32 @@ std::vector<TextDraw> draws(const ShadowLabelProperties& properties, FaceSize co
     return all;
 }
 
+// The names of the stored form; the one list for reading and writing.
+template <typename Properties, typename Each>
+void eachProperty(Properties& properties, const std::string& controlName, Each each) {
+    const ShadowLabelProperties fresh;
+    each("Caption", properties.caption, controlName);
+    each("Alignment", properties.alignment, fresh.alignment);
+    each("Autosize", properties.autosize, fresh.autosize);
+    each("ForeColor", properties.foreColor, fresh.foreColor);
+    each("BackColor", properties.backColor, fresh.backColor);
+    each("ShadowColor", properties.shadowColor, fresh.shadowColor);
+    each("WordWrap", properties.wordWrap, fresh.wordWrap);
+    each("Font", properties.font, fresh.font);
+    each("Enabled", properties.enabled, fresh.enabled);
+}
+
 }  // namespace
 
 ShadowLabelProperties readShadowLabel(const PropertyBag& bag, const std::string& controlName) {
     ShadowLabelProperties properties;
-    properties.caption = bag.read("Caption", controlName);
-    properties.alignment = bag.read("Alignment", properties.alignment);
-    properties.autosize = bag.read("Autosize", properties.autosize);
-    properties.foreColor = bag.read("ForeColor", properties.foreColor);
-    properties.backColor = bag.read("BackColor", properties.backColor);
-    properties.shadowColor = bag.read("ShadowColor", properties.shadowColor);
-    properties.wordWrap = bag.read("WordWrap", properties.wordWrap);
-    properties.font = bag.read("Font", properties.font);
-    properties.enabled = bag.read("Enabled", properties.enabled);
+    eachProperty(properties, controlName, FromBag{bag});
     return properties;
 }
 
 void writeShadowLabel(PropertyBag& bag, const ShadowLabelProperties& properties,
                       const std::string& controlName) {
-    const ShadowLabelProperties fresh;
-    bag.write("Caption", properties.caption, controlName);
-    bag.write("Alignment", properties.alignment, fresh.alignment);
-    bag.write("Autosize", properties.autosize, fresh.autosize);
-    bag.write("ForeColor", properties.foreColor, fresh.foreColor);
-    bag.write("BackColor", properties.backColor, fresh.backColor);
-    bag.write("ShadowColor", properties.shadowColor, fresh.shadowColor);
-    bag.write("WordWrap", properties.wordWrap, fresh.wordWrap);
-    bag.write("Font", properties.font, fresh.font);
-    bag.write("Enabled", properties.enabled, fresh.enabled);
+    eachProperty(properties, controlName, IntoBag{bag});
 }
 
 FaceSize labelSize(FaceSize text) {
