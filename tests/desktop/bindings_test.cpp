@@ -154,6 +154,19 @@ TEST_F(Bindings, APlainLabelShowsItsCaptionAsPlainText) {
     EXPECT_EQ(label.textFormat(), Qt::PlainText);
 }
 
+TEST_F(Bindings, ALinkShowsItsAddressWithEveryLetterAndMakesNoShortcutOfIt) {
+    QPushButton site;
+    bindLink(site, form.lblState, acts);
+    form.lblState.setCaption("https://quorrin.example/?a=1&b=2");
+    EXPECT_EQ(site.text(), "https://quorrin.example/?a=1&&b=2");
+    EXPECT_TRUE(site.shortcut().isEmpty());
+    int clicks = 0;
+    form.lblState.onClick = [&] { ++clicks; };
+    QTest::mouseClick(&site, Qt::LeftButton);
+    settle();
+    EXPECT_EQ(clicks, 1);
+}
+
 TEST_F(Bindings, AButtonShowsItsCaption) {
     auto& button = put<Command>("cmdGo");
     form.cmdGo.setCaption("Stop");

@@ -1,59 +1,35 @@
 #include "desktop/binding/bind.h"
 #include "desktop/binding/binding.h"
+#include "desktop/binding/caption.h"
 
 namespace quorrin {
 
 namespace {
 
+// Whatever the widget: it shows the button's caption, and hands on press, release and click.
+template <typename Widget>
 class ButtonBinding : public Binding {
   public:
-    ButtonBinding(QAbstractButton& widget, CommandButton& control, const OperatorActs& acts)
+    ButtonBinding(Widget& widget, CommandButton& control, const OperatorActs& acts)
         : Binding(widget, control, acts), widget_(widget), control_(control) {
-        connect(&widget, &QAbstractButton::pressed, this, [this] {
-            if (control_.onMouseDown) act([&pressed = control_] { pressed.operatorPress(); });
-        });
-        connect(&widget, &QAbstractButton::released, this, [this] {
-            if (control_.onMouseUp) act([&released = control_] { released.operatorRelease(); });
-        });
-        connect(&widget, &QAbstractButton::clicked, this,
-                [this] { act([&clicked = control_] { clicked.operatorClick(); }); });
         start();
     }
 
-  protected:
-    void showValue() override {
-        // An ampersand is a letter here, no shortcut.
-        const QString text = QString::fromStdString(control_.caption()).replace('&', QStringLiteral("&&"));
-        if (widget_.text() != text) widget_.setText(text);
+    void pressed() {
+        if (control_.onMouseDown) act([&pressed = control_] { pressed.operatorPress(); });
     }
-
-  private:
-    QAbstractButton& widget_;
-    CommandButton& control_;
-};
-
-class CommandBinding : public Binding {
-  public:
-    CommandBinding(Command& widget, CommandButton& control, const OperatorActs& acts)
-        : Binding(widget, control, acts), widget_(widget), control_(control) {
-        widget.onPress = [this] {
-            if (control_.onMouseDown) act([&pressed = control_] { pressed.operatorPress(); });
-        };
-        widget.onRelease = [this] {
-            if (control_.onMouseUp) act([&released = control_] { released.operatorRelease(); });
-        };
-        widget.onClick = [this] { act([&clicked = control_] { clicked.operatorClick(); }); };
-        start();
+    void released() {
+        if (control_.onMouseUp) act([&released = control_] { released.operatorRelease(); });
+    }
+    void clicked() {
+        act([&clicked = control_] { clicked.operatorClick(); });
     }
 
   protected:
-    void showValue() override {
-        const QString caption = QString::fromStdString(control_.caption());
-        if (widget_.caption() != caption) widget_.setCaption(caption);
-    }
+    void showValue() override { showCaption(widget_, QString::fromStdString(control_.caption())); }
 
   private:
-    Command& widget_;
+    Widget& widget_;
     CommandButton& control_;
 };
 
@@ -61,7 +37,7 @@ class CheckBinding : public Binding {
   public:
     CheckBinding(QCheckBox& widget, CheckBox& control, const OperatorActs& acts)
         : Binding(widget, control, acts), widget_(widget), control_(control) {
-        widget.setText(QString::fromStdString(control.caption()));
+        showCaption(widget, QString::fromStdString(control.caption()));
         connect(&widget, &QCheckBox::clicked, this,
                 [this](bool checked) { act([&set = control_, checked] { set.operatorSet(checked); }); });
         start();
@@ -83,7 +59,7 @@ class OptionBinding : public Binding {
         : Binding(widget, control, acts), widget_(widget), control_(control) {
         // Which of them is chosen is the form's business.
         widget.setAutoExclusive(false);
-        widget.setText(QString::fromStdString(control.caption()));
+        showCaption(widget, QString::fromStdString(control.caption()));
         connect(&widget, &QRadioButton::clicked, this,
                 [this] { act([&chosen = control_] { chosen.operatorChoose(); }); });
         start();
@@ -102,11 +78,17 @@ class OptionBinding : public Binding {
 }  // namespace
 
 void bind(QAbstractButton& widget, CommandButton& control, const OperatorActs& acts) {
-    new ButtonBinding(widget, control, acts);
+    auto* const binding = new ButtonBinding(widget, control, acts);
+    QObject::connect(&widget, &QAbstractButton::pressed, binding, [binding] { binding->pressed(); });
+    QObject::connect(&widget, &QAbstractButton::released, binding, [binding] { binding->released(); });
+    QObject::connect(&widget, &QAbstractButton::clicked, binding, [binding] { binding->clicked(); });
 }
 
 void bind(Command& widget, CommandButton& control, const OperatorActs& acts) {
-    new CommandBinding(widget, control, acts);
+    auto* const binding = new ButtonBinding(widget, control, acts);
+    widget.onPress = [binding] { binding->pressed(); };
+    widget.onRelease = [binding] { binding->released(); };
+    widget.onClick = [binding] { binding->clicked(); };
 }
 
 void bind(QCheckBox& widget, CheckBox& control, const OperatorActs& acts) {

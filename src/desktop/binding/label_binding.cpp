@@ -1,79 +1,46 @@
 #include "desktop/binding/bind.h"
 #include "desktop/binding/binding.h"
+#include "desktop/binding/caption.h"
 
 namespace quorrin {
 
 namespace {
 
+// Whatever the widget: it shows the label's caption.
+template <typename Widget>
 class LabelBinding : public Binding {
   public:
-    LabelBinding(QLabel& widget, Label& control, const OperatorActs& acts)
-        : Binding(widget, control, acts), widget_(widget), control_(control) {
-        widget.setTextFormat(Qt::PlainText);
-        start();
-    }
-
-  protected:
-    void showValue() override {
-        const QString text = QString::fromStdString(control_.caption());
-        if (widget_.text() != text) widget_.setText(text);
-    }
-
-  private:
-    QLabel& widget_;
-    Label& control_;
-};
-
-class ShadowBinding : public Binding {
-  public:
-    ShadowBinding(ShadowLabel& widget, Label& control, const OperatorActs& acts)
+    LabelBinding(Widget& widget, Label& control, const OperatorActs& acts)
         : Binding(widget, control, acts), widget_(widget), control_(control) {
         start();
     }
 
-  protected:
-    void showValue() override {
-        const QString text = QString::fromStdString(control_.caption());
-        if (widget_.caption() != text) widget_.setCaption(text);
-    }
-
-  private:
-    ShadowLabel& widget_;
-    Label& control_;
-};
-
-class LinkBinding : public Binding {
-  public:
-    LinkBinding(QAbstractButton& widget, Label& control, const OperatorActs& acts)
-        : Binding(widget, control, acts), widget_(widget), control_(control) {
-        connect(&widget, &QAbstractButton::clicked, this,
-                [this] { act([&clicked = control_] { clicked.operatorClick(); }); });
-        start();
+    void clicked() {
+        act([&clicked = control_] { clicked.operatorClick(); });
     }
 
   protected:
-    void showValue() override {
-        const QString text = QString::fromStdString(control_.caption());
-        if (widget_.text() != text) widget_.setText(text);
-    }
+    void showValue() override { showCaption(widget_, QString::fromStdString(control_.caption())); }
 
   private:
-    QAbstractButton& widget_;
+    Widget& widget_;
     Label& control_;
 };
 
 }  // namespace
 
 void bind(QLabel& widget, Label& control, const OperatorActs& acts) {
+    widget.setTextFormat(Qt::PlainText);
     new LabelBinding(widget, control, acts);
 }
 
 void bind(ShadowLabel& widget, Label& control, const OperatorActs& acts) {
-    new ShadowBinding(widget, control, acts);
+    new LabelBinding(widget, control, acts);
 }
 
 void bindLink(QAbstractButton& widget, Label& control, const OperatorActs& acts) {
-    new LinkBinding(widget, control, acts);
+    auto* const binding = new LabelBinding(widget, control, acts);
+    QObject::connect(&widget, &QAbstractButton::clicked, binding, [binding] { binding->clicked(); });
 }
 
 }  // namespace quorrin
