@@ -4,6 +4,7 @@
 
 #include <QImage>
 
+#include "desktop/dashboard_bench.h"
 #include "desktop/widgets/lamp.h"
 #include "session/record/general_constants.h"
 
@@ -49,6 +50,23 @@ TEST_F(Tile, ShowsHowFarAWaitIs) {
     const QImage begun = drawn(tile, {"starting", "", Tone::busy, 0.1});
     const QImage nearly = drawn(tile, {"starting", "", Tone::busy, 0.9});
     EXPECT_NE(begun, nearly);
+}
+
+TEST_F(Tile, TheWaitThatIsOverStandsOutFromTheRestInEveryToneOfBothLooks) {
+    LookGuard look;
+    for (const Theme* theme : {&lightTheme(), &darkTheme()}) {
+        look.wear(*theme, 1);
+        for (const Tone tone : {Tone::off, Tone::good, Tone::busy, Tone::warning, Tone::bad}) {
+            const QImage picture = drawn(tile, {"starting", "", tone, 0.5});
+            const int y = picture.height() - GlanceTile::kProgressHeight / 2 - 1;
+            const int right = picture.width() - theme->radius - 2;
+            const QColor rest = picture.pixelColor(right, y);
+            // The bar begins beside the block and its middle is right of the tile's.
+            const QColor done = picture.pixelColor(picture.width() / 2, y);
+            EXPECT_EQ(rest, theme->line);
+            EXPECT_GE(contrast(done, rest), 3) << theme->dark << static_cast<int>(tone);
+        }
+    }
 }
 
 TEST_F(Tile, WritesSmallerRatherThanCutOff) {

@@ -105,7 +105,8 @@ void GlanceTile::drawProgress(QPainter& painter, const ToneColours& tone) const 
     painter.fillRect(bar, currentTheme().line);
     QRectF done = bar;
     done.setWidth(bar.width() * std::min(glance_.progress, 1.0));
-    painter.fillRect(done, tone.block);
+    // As dark as the writing: the block of a warning can hardly be told from the rest of the bar.
+    painter.fillRect(done, tone.text);
 }
 
 }  // namespace quorrin
