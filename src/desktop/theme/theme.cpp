@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <algorithm>
-#include <cmath>
+
+#include "console/colour_mix.h"
 
 namespace quorrin {
 
@@ -43,7 +43,6 @@ Theme makeLight() {
 Theme makeDark() {
     Theme theme;
     theme.dark = true;
-    theme.buttonLook = 1;
     theme.window = QColor(0x10, 0x14, 0x1a);
     theme.surface = QColor(0x1a, 0x20, 0x28);
     theme.field = QColor(0x12, 0x17, 0x1d);
@@ -73,13 +72,8 @@ Theme makeDark() {
     return theme;
 }
 
-double linear(double channel) {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor& colour) {
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
+Colour opaque(const QColor& colour) {
+    return rgb(colour.red(), colour.green(), colour.blue());
 }
 
 }  // namespace
@@ -95,8 +89,9 @@ const Theme& darkTheme() {
 }
 
 const Theme& themeOf(const QPalette& palette) {
-    const bool dark =
-        luminance(palette.color(QPalette::WindowText)) > luminance(palette.color(QPalette::Window));
+    // The lighter of two is farther from black.
+    const bool dark = contrast(palette.color(QPalette::WindowText), Qt::black) >
+                      contrast(palette.color(QPalette::Window), Qt::black);
     return dark ? darkTheme() : lightTheme();
 }
 
@@ -109,9 +104,7 @@ void switchTheme(QApplication& application) {
 }
 
 double contrast(const QColor& one, const QColor& other) {
-    const double a = luminance(one);
-    const double b = luminance(other);
-    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+    return contrastRatio(opaque(one), opaque(other));
 }
 
 }  // namespace quorrin

@@ -24,7 +24,6 @@ struct ToneColours {
 
 struct Theme {
     bool dark = false;
-    int buttonLook = 0;  // which skin the buttons wear
 
     QColor window;
     QColor surface;  // groups

@@ -4,16 +4,13 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "desktop/binding/window_colour.h"
 #include "desktop/theme/icon_paths.h"
 #include "desktop/theme/theme.h"
 
 namespace quorrin {
 
 namespace {
-
-QColor colourOf(Colour fill) {
-    return QColor(fill & 255, (fill >> 8) & 255, (fill >> 16) & 255);
-}
 
 QPainterPath outline(Tone tone, const QRectF& box) {
     QPainterPath path;
@@ -90,7 +87,7 @@ void Lamp::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF box = QRectF(0, (height() - side()) / 2.0, side(), side()).adjusted(1, 1, -1, -1);
-    const QColor colour = colourOf(fill_);
+    const QColor colour = windowColour(fill_);
     const QPainterPath path = outline(sign_.tone, box);
     painter.fillPath(path, colour);
     painter.strokePath(path, QPen(theme.outline, 1.2));
