@@ -134,7 +134,7 @@ TEST_F(GridViewTest, LinesAndWordsKeepTheirContrastOnBothPapers) {
             EXPECT_GE(contrast(letters, colours.paper), 4.5);
         }
         for (const QColor& line : {colours.infrared, colours.sonar, colours.blocked, colours.free,
-                                   colours.guidance, colours.robot})
+                                   colours.guidance, colours.robot, colours.focus})
             EXPECT_GE(contrast(line, colours.paper), 3) << line.name().toStdString();
         for (const QColor& trace : colours.traces) EXPECT_GE(contrast(trace, colours.paper), 4.5);
     }

@@ -141,6 +141,12 @@ void GridView::paintEvent(QPaintEvent*) {
                   around(picture_.heading_rad, GridPicture::kRobotRadius_m));
     }
     drawWords(painter);
+    if (!hasFocus()) return;
+    constexpr int kRing = 2;
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(colours_.focus, kRing));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(rect().adjusted(kRing / 2, kRing / 2, -kRing / 2, -kRing / 2));
 }
 
 void GridView::drawLattice(QPainter& painter) const {

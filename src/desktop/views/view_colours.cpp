@@ -24,6 +24,7 @@ ViewColours viewColours(const QPalette& palette) {
     colours.free = theme.good.block;
     colours.guidance = theme.curves.at(3);
     colours.robot = theme.text;
+    colours.focus = theme.focus;
     // One trace more than the theme has curves: that one is drawn as writing is.
     for (std::size_t i = 0; i < colours.traces.size(); ++i)
         colours.traces[i] = i < theme.curves.size() ? theme.curves[i] : theme.muted;

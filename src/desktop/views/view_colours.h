@@ -24,6 +24,7 @@ struct ViewColours {
     QColor free;
     QColor guidance;  // goal, heading, target
     QColor robot;
+    QColor focus;  // ring of the view that has the keys
     std::array<QColor, kMostTraces> traces;
 };
 
