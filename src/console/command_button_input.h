@@ -35,7 +35,7 @@ enum class KeyKind {
 
 struct KeyStroke {
     KeyKind kind = KeyKind::character;
-    int key = 0;  // number of the character in capitals, 13 for enter
+    int key = 0;  // the character's in capitals; 13 enter, 8 backspace, 45 insert, 46 delete
     int shift = 0;
     bool autoRepeat = false;
     std::uint32_t place = 0;  // which key of the keyboard, for finding its release

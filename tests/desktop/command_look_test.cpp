@@ -192,6 +192,26 @@ TEST_F(CommandLook, AsStoredItWearsWhatTheFormHolds) {
     EXPECT_TRUE(made.font().bold());
 }
 
+TEST_F(CommandLook, AFontWithoutASizeHasTheAmbientOneWhateverWasChosenBefore) {
+    const double ambient = button.font().pointSizeF();
+    button.setFontChoice({"DejaVu Sans", 20, true, false});
+    EXPECT_EQ(button.font().pointSizeF(), 20);
+    button.setFontChoice({"DejaVu Sans", 0, false, false});
+    EXPECT_EQ(button.font().pointSizeF(), ambient);
+    button.setFontChoice({});
+    EXPECT_EQ(button.font(), QApplication::font());
+}
+
+TEST_F(CommandLook, AButtonMadeInADisabledParentIsDisabled) {
+    QWidget window;
+    window.setEnabled(false);
+    Command& made = *new Command(&window);
+    Command& stored = *new Command(CommandButtonProperties(), {}, &window);
+    for (Command* one : {&made, &stored}) EXPECT_EQ(one->model().cell(), ButtonState::disabled);
+    window.setEnabled(true);
+    for (Command* one : {&made, &stored}) EXPECT_EQ(one->model().cell(), ButtonState::normal);
+}
+
 struct CommandAccess : CommandLook {
     std::string told;
     QAccessibleInterface* reader() { return QAccessible::queryAccessibleInterface(&button); }

@@ -217,6 +217,8 @@ TEST_F(CommandWidget, KeyEventsTellTheKeysNumber) {
     EXPECT_EQ(number, 13);
     QTest::keyClick(&button, Qt::Key_Backspace);
     EXPECT_EQ(number, 8);
+    QTest::keyClick(&button, Qt::Key_Delete);
+    EXPECT_EQ(number, 46);
     QTest::keyClick(&button, Qt::Key_A);
     EXPECT_EQ(number, 'A');
 }

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "desktop/theme/style_sheet.h"
+#include "desktop/theme/theme.h"
 #include "desktop/widgets/control_look.h"
 
 namespace quorrin {
@@ -111,6 +113,28 @@ TEST(ShadowLabelWidget, SystemColoursFollowTheWindowsPalette) {
     other.setColor(QPalette::ButtonText, Qt::magenta);
     label.setPalette(other);
     EXPECT_NE(pictureOf(label), before);
+}
+
+TEST(ShadowLabelWidget, EverySystemColourIsOneOfThePalettes) {
+    constexpr int kLastRole = 0x18;
+    QPalette palette;
+    const QPalette::ColorRole inUse[] = {
+        QPalette::Base,     QPalette::Window,      QPalette::Highlight,       QPalette::Mid,
+        QPalette::Button,   QPalette::Dark,        QPalette::HighlightedText, QPalette::ButtonText,
+        QPalette::Text,     QPalette::Shadow,      QPalette::WindowText,      QPalette::Light,
+        QPalette::Midlight, QPalette::ToolTipText, QPalette::ToolTipBase};
+    for (const auto role : inUse) palette.setColor(role, QColor(200, static_cast<int>(role), 7));
+    const SystemColours colours = systemColours(palette);
+    for (int role = 0; role <= kLastRole; ++role) {
+        const ColourParts parts = partsOf(plainColour(systemColour(role), colours));
+        EXPECT_EQ(parts.red, 200) << role;
+        EXPECT_EQ(parts.blue, 7) << role;
+    }
+    EXPECT_EQ(plainColour(systemColour(0x05), colours), rgb(200, QPalette::Base, 7));
+    EXPECT_EQ(plainColour(systemColour(0x08), colours), rgb(200, QPalette::Text, 7));
+    EXPECT_EQ(plainColour(kButtonFace, colours), rgb(200, QPalette::Window, 7));
+    EXPECT_EQ(plainColour(kButtonShadow, colours), rgb(200, QPalette::Shadow, 7));
+    EXPECT_EQ(plainColour(kButtonText, colours), rgb(200, QPalette::ButtonText, 7));
 }
 
 TEST(ShadowLabelWidget, WithoutWrappingTheTextStaysOnOneLineAndIsCutAtTheEdge) {
@@ -243,6 +267,40 @@ TEST(ShadowLabelWidget, EveryPropertyIsStoredAndDrawn) {
     differs("Autosize");
     EXPECT_EQ(label.properties().font.points, 16);
     EXPECT_FALSE(label.properties().enabled);
+}
+
+TEST(ShadowLabelWidget, AFontWithoutASizeHasTheAmbientOneWhateverWasChosenBefore) {
+    ShadowLabel label("Robot X");
+    const double ambient = label.font().pointSizeF();
+    label.setFontChoice({"DejaVu Sans", 20, true, false});
+    label.setFontChoice({"DejaVu Sans", 0, false, false});
+    EXPECT_EQ(label.font().pointSizeF(), ambient);
+}
+
+TEST(ShadowLabelWidget, ALabelMadeInADisabledParentIsDisabled) {
+    QWidget window;
+    window.setEnabled(false);
+    EXPECT_FALSE((new ShadowLabel("Robot X", &window))->properties().enabled);
+}
+
+// What a text is drawn on: its own shadow, the window, a group, a box.
+TEST(ShadowLabelWidget, TheTextKeepsTheContrastForReadingOnItsShadowAndGroundInBothLooks) {
+    for (const Theme* theme : {&lightTheme(), &darkTheme()}) {
+        ShadowLabelProperties label;
+        label.caption = "Robot X";
+        for (const bool enabled : {true, false}) {
+            label.enabled = enabled;
+            const std::vector<TextDraw> draws =
+                labelDrawing(label, {80, 20}, {}, systemColours(palette(*theme))).draws;
+            const Colour text = draws.back().colour;
+            for (std::size_t i = 0; i + 1 < draws.size(); ++i)
+                EXPECT_GE(contrastRatio(text, draws[i].colour), 4.5)
+                    << theme->dark << enabled << " draw " << i;
+            for (const QColor& ground : {theme->window, theme->surface, theme->field})
+                EXPECT_GE(contrastRatio(text, plainColour(ground)), 4.5)
+                    << theme->dark << enabled << ground.name().toStdString();
+        }
+    }
 }
 
 TEST(ShadowLabelWidget, OnAFinerScreenItIsDrawnWithTheScreensPixels) {

@@ -28,8 +28,8 @@ Command::Command(QWidget* parent) : QWidget(parent) {
 Command::Command(const CommandButtonProperties& properties, const QIcon& icon, QWidget* parent)
     : QWidget(parent), model_(properties), icon_(icon), ownLook_(true), ownFontColor_(true) {
     if (!properties.font.ambient()) setFont(fontOf(properties.font, font()));
-    connectModel();
     setEnabled(properties.enabled);
+    connectModel();
 }
 
 void Command::connectModel() {
@@ -52,6 +52,8 @@ void Command::connectModel() {
     model_.onMouseOut = [this, pass] { pass(onMouseOut); };
     model_.onMouseDown = [this, pass](const MouseStroke&) { pass(onPress); };
     model_.onMouseUp = [this, pass](const MouseStroke&) { pass(onRelease); };
+    // A parent that is disabled has told so before anybody here could hear it.
+    model_.setEnabled(isEnabled());
     layOut();
 }
 
@@ -84,7 +86,9 @@ void Command::setIconAlign(std::int32_t align) {
 
 void Command::setFontChoice(const FontChoice& font) {
     model_.setFont(font);
-    setFont(font.ambient() ? QFont() : fontOf(font, this->font()));
+    // From the ambient font anew, so that nothing of an earlier choice stays.
+    setFont(QFont());
+    if (!font.ambient()) setFont(fontOf(font, this->font()));
 }
 
 void Command::setLookKind(LookKind kind) {

@@ -28,6 +28,8 @@ ShadowLabel::ShadowLabel(const ShadowLabelProperties& properties, QWidget* paren
 
 void ShadowLabel::start() {
     announceAccessibleControls();
+    // A parent that is disabled has told so before anybody here could hear it.
+    properties_.enabled = isEnabled();
     setWordWrap(properties_.wordWrap);
 }
 
@@ -72,7 +74,9 @@ void ShadowLabel::setWordWrap(bool wrap) {
 
 void ShadowLabel::setFontChoice(const FontChoice& font) {
     properties_.font = font;
-    setFont(font.ambient() ? QFont() : fontOf(font, this->font()));
+    // From the ambient font anew, so that nothing of an earlier choice stays.
+    setFont(QFont());
+    if (!font.ambient()) setFont(fontOf(font, this->font()));
     redraw();
 }
 

@@ -1,5 +1,7 @@
 #include "desktop/widgets/strokes.h"
 
+#include "desktop/binding/key_codes.h"
+
 namespace quorrin {
 
 namespace {
@@ -71,16 +73,9 @@ KeyKind kindOf(const QKeyEvent& event) {
                : KeyKind::character;
 }
 
-int keyNumber(int key) {
-    switch (key) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            return 13;
-        case Qt::Key_Backspace:
-            return 8;
-        default:
-            return key;
-    }
+// Qt's numbers of keys with a character are those of the characters.
+int keyNumber(const QKeyEvent& event) {
+    return event.key() >= kFirstSpecialKey ? keyCode(event) : event.key();
 }
 
 }  // namespace
@@ -93,7 +88,7 @@ MouseStroke mouseStroke(const QMouseEvent& event) {
 KeyStroke keyStroke(const QKeyEvent& event) {
     KeyStroke stroke;
     stroke.kind = kindOf(event);
-    stroke.key = keyNumber(event.key());
+    stroke.key = keyNumber(event);
     stroke.shift = shiftState(event.modifiers());
     stroke.autoRepeat = event.isAutoRepeat();
     // The same key has another number with and without shift; its place stays.
