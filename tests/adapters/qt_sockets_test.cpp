@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
+#include <utility>
 
 #include "platform/qt/qt_clock.h"
 #include "platform/timer_mm.h"
@@ -47,24 +48,18 @@ class PlainClient {
     void send(const std::string& bytes) const {
         ::send(socket_.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
     }
-    // What has come; sets ended() at the station's close.
+    // What has come since the last call.
     std::string received() {
-        std::string all;
-        char bytes[65536];
-        for (;;) {
-            const ssize_t got = ::recv(socket_.get(), bytes, sizeof bytes, MSG_DONTWAIT);
-            if (got <= 0) {
-                ended_ = ended_ || got == 0 || errno == ECONNRESET;
-                return all;
-            }
-            all.append(bytes, static_cast<std::size_t>(got));
-        }
+        collect();
+        return std::exchange(waiting_, {});
     }
+    // The station has closed.
     bool ended() {
-        received();
+        collect();
         return ended_;
     }
     void hangUp() { socket_.closeNow(); }
+    void endSending() const { ::shutdown(socket_.get(), SHUT_WR); }
     void reset() {
         const linger atOnce{1, 0};
         ::setsockopt(socket_.get(), SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
@@ -72,7 +67,20 @@ class PlainClient {
     }
 
   private:
+    void collect() {
+        char bytes[65536];
+        for (;;) {
+            const ssize_t got = ::recv(socket_.get(), bytes, sizeof bytes, MSG_DONTWAIT);
+            if (got <= 0) {
+                ended_ = ended_ || got == 0 || errno == ECONNRESET;
+                return;
+            }
+            waiting_.append(bytes, static_cast<std::size_t>(got));
+        }
+    }
+
     FileHandle socket_;
+    std::string waiting_;
     bool ended_ = false;
 };
 
@@ -165,13 +173,47 @@ TEST_F(QtSocketsTest, SentBytesArriveAndWhatIsUnderWayAtTheCloseTooIfTheClientRe
     element->send("head");
     element->send(big);
     element->close();
-    std::string got;
-    EXPECT_TRUE(waitForReal([&] {
-        got += client.received();
-        return client.ended();
-    }));
+    EXPECT_TRUE(waitForReal([&] { return client.ended(); }));
+    const std::string got = client.received();
     EXPECT_EQ(got.size(), big.size() + 4);
     EXPECT_EQ(got.substr(0, 6), "headvv");
+}
+
+TEST_F(QtSocketsTest, WhatIsUnderWayGoesOutToAClientThatHasEndedItsOwnSending) {
+    connected();
+    element->onClose = [this] {
+        log.emplace_back("closed");
+        element->close();
+    };
+    const std::string big(1'000'000, 'v');
+    element->send(big);
+    client.endSending();
+    ASSERT_TRUE(waitForReal([&] { return !log.empty(); }));
+    EXPECT_TRUE(waitForReal([&] { return client.ended(); }));
+    EXPECT_THAT(log, ElementsAre("closed"));
+    EXPECT_EQ(client.received().size(), big.size());
+}
+
+TEST_F(QtSocketsTest, AnOrderlyCloseStaysOneThoughMoreWasSentBeforeItIsHeardOf) {
+    connected();
+    client.send("Quit");
+    client.hangUp();
+    // The station has not looked yet: its reports meet a client that is gone.
+    for (int i = 0; i < 100; ++i) element->send("report");
+    EXPECT_EQ(element->state(), SocketState::connected);
+    ASSERT_TRUE(waitForReal([&] { return !log.empty() && log.back() != "data"; }));
+    settle();
+    EXPECT_THAT(log, ElementsAre("data", "closed"));
+    EXPECT_EQ(heard, "Quit");
+}
+
+TEST_F(QtSocketsTest, AResetStaysAnErrorThoughMoreWasSentBeforeItIsHeardOf) {
+    connected();
+    client.reset();
+    for (int i = 0; i < 100; ++i) element->send("report");
+    ASSERT_TRUE(waitForReal([&] { return !log.empty(); }));
+    settle();
+    EXPECT_THAT(log, ElementsAre("failed"));
 }
 
 TEST_F(QtSocketsTest, AClientThatNeverReadsIsHeldOneMebibyteAndThenIsAnError) {

@@ -88,6 +88,8 @@ TcpResult sendTcp(const FileHandle& socket, std::string_view& bytes) {
     while (!bytes.empty()) {
         const ssize_t sent = ::send(socket.get(), bytes.data(), bytes.size(), MSG_NOSIGNAL);
         if (sent < 0 && errno == EINTR) continue;
+        // A reset is told as such, once; EPIPE is what is left where the peer's close came before it.
+        if (sent < 0 && errno == EPIPE) return TcpResult::ended;
         if (sent < 0) return errno == EAGAIN ? TcpResult::later : TcpResult::broken;
         bytes.remove_prefix(static_cast<std::size_t>(sent));
     }

@@ -28,7 +28,8 @@ TcpAccept acceptTcp(const FileHandle& listener, TcpCall& call);
 enum class TcpResult { some, later, ended, broken };
 // Appends at most `atMost` bytes.
 TcpResult receiveTcp(const FileHandle& socket, std::size_t atMost, std::string& bytes);
-// Takes what the machine takes off the front of `bytes`: some is all of it, later a rest.
+// Takes what the machine takes off the front of `bytes`: some is all of it, later a rest. Ended: the peer has
+// closed in order and takes nothing more; what it sent before, and its close, are still there to be read.
 TcpResult sendTcp(const FileHandle& socket, std::string_view& bytes);
 
 // A descriptor kept for the day on which there is none left: given up for a moment, it lets a caller be taken

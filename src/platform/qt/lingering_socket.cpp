@@ -22,7 +22,8 @@ LingeringSocket::LingeringSocket(FileHandle socket, std::string rest)
 
 void LingeringSocket::push() {
     std::string_view left = rest_;
-    if (sendTcp(socket_, left) == TcpResult::broken) left = {};
+    const TcpResult result = sendTcp(socket_, left);
+    if (result == TcpResult::broken || result == TcpResult::ended) left = {};
     rest_.erase(0, rest_.size() - left.size());
     if (!rest_.empty()) return;
     writable_.setEnabled(false);

@@ -161,7 +161,12 @@ void QtSocket::fail() {
 
 void QtSocket::send(std::string_view bytes) {
     if (state_ != SocketState::connected) return;
-    if (unsent_.empty() && sendTcp(socket_, bytes) == TcpResult::broken) return fail();
+    if (unsent_.empty()) {
+        const TcpResult result = sendTcp(socket_, bytes);
+        if (result == TcpResult::broken) return fail();
+        // Reading tells how it ended, and what came before.
+        if (result == TcpResult::ended) return;
+    }
     if (bytes.empty()) return;
     if (unsent_.size() + bytes.size() > kSocketSendBound) return fail();
     unsent_ += bytes;
@@ -175,19 +180,25 @@ void QtSocket::push() {
     const TcpResult result = sendTcp(socket_, rest);
     unsent_.erase(0, unsent_.size() - rest.size());
     if (result == TcpResult::broken) return fail();
-    if (unsent_.empty()) writable_->setEnabled(false);
+    if (result == TcpResult::ended) unsent_.clear();
+    if (!unsent_.empty()) return;
+    writable_->setEnabled(false);
+    unsent_.shrink_to_fit();
 }
 
 void QtSocket::close() {
     if (state_ == SocketState::closed) return;
-    const bool goesOut = state_ == SocketState::connected && !unsent_.empty();
+    // A peer that has ended its own sending may still read.
+    const bool goesOut =
+        (state_ == SocketState::connected || state_ == SocketState::closing) && !unsent_.empty();
     life_ = std::make_shared<bool>(true);
     // Only events of the clock come here, never Qt's own: the notifiers can go.
     readable_.reset();
     writable_.reset();
     late_.setEnabled(false);
     state_ = SocketState::closed;
-    unread_.clear();
+    // A broken element may stay in its place for long, and shall hold nothing there.
+    std::string().swap(unread_);
     auto& lingering = owner_.lingering_;
     lingering.erase(
         std::remove_if(lingering.begin(), lingering.end(), [](const auto& socket) { return socket->over(); }),
@@ -197,7 +208,7 @@ void QtSocket::close() {
     } else {
         socket_.closeNow();
     }
-    unsent_.clear();
+    std::string().swap(unsent_);
 }
 
 QtSockets::QtSockets(Clock& clock) : clock_(clock), spare_(spareDescriptor()) {}
