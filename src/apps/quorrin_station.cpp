@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "apps/end_by_operator.h"
+#include "apps/end_in_crash.h"
 #include "apps/real_station.h"
 #include "base/program_error.h"
 #include "console/crash_report.h"
@@ -24,27 +25,12 @@ namespace quorrin {
 namespace {
 
 constexpr int kCannotStart = 2;
-constexpr int kProgramError = 3;
 constexpr int kLookAtRecorderMs = 1000;
 
 int cannotStart(Terminal& terminal, const std::string& why) {
     terminal.line("quorrin-station: " + why);
     PlainBoxes().show(why, "", BoxButtons::ok);
     return kCannotStart;
-}
-
-int endInCrash(RealStation& real, Terminal& terminal, const std::string& what) {
-    const std::string& place = real.time.failedIn();
-    // The session's clocks deliver no more; a signal closes the box.
-    QtClock clock;
-    const SignalWatch signals(clock, [] { QCoreApplication::exit(); });
-    const auto write = [&] {
-        real.recorder.flush();
-        terminal.line("quorrin-station: " + programErrorText(place, what));
-    };
-    PlainBoxes boxes;
-    reportCrash(real.myRobot, write, boxes, place, what);
-    return kProgramError;
 }
 
 int runStation(RealStation& real, Terminal& terminal) {
