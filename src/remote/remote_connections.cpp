@@ -1,6 +1,7 @@
 // Listeners, accepting and refusing.
 #include "remote/remote_connections.h"
 
+#include "base/windows_text.h"
 #include "remote/connection_list.h"
 #include "sound/wave_resource.h"
 
@@ -96,7 +97,7 @@ void RemoteConnections::playRingTone(int number) {
 }
 
 void RemoteConnections::sendStatus(int element, const std::string& record) {
-    if (Socket* socket = wskSensor_.element(element)) socket->send(record);
+    if (Socket* socket = wskSensor_.element(element)) socket->send(windowsText(record));
 }
 
 void RemoteConnections::noteListenProblems() {

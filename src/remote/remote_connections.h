@@ -35,7 +35,8 @@ class RemoteConnections {
     // At the program's end.
     void closeAllSockets();
 
-    // A status record to one element of wskSensor; lost where there is no connected one.
+    // A status record to one element of wskSensor, in bytes of one character each; lost where there is no
+    // connected one.
     void sendStatus(int element, const std::string& record);
 
   private:

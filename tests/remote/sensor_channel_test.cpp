@@ -38,6 +38,12 @@ TEST_F(SensorChannel, EachOfTheFiveBoxesReportsItsChangeAsItReads) {
     EXPECT_EQ(gui.txtChangeCount.text(), "5");
 }
 
+TEST_F(SensorChannel, AReportIsMadeOfCharactersOfOneByte) {
+    command("PING");
+    gui.txtRobotCurrX.operatorEdit("\u00FC\u20AC\u673A");
+    EXPECT_THAT(takeSockets(), ElementsAre("send wskSensor 1 \xFC\x80?,0,0,,,0"));
+}
+
 TEST_F(SensorChannel, WritingTheSameWordAgainIsNoChange) {
     command("PING");
     gui.txtRobotStatus.setText("JOY");
