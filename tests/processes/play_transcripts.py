@@ -91,6 +91,10 @@ class Connection:
             self.ended = not data
             self.received, self.log, seconds = self.received + data, self.log + data, 0.0
 
+    def has_ended(self):
+        self.read(0.05)
+        return self.ended
+
     def accepted(self):
         """A call that is refused is closed by the handler that took it."""
         if self.port != COMMAND:
@@ -131,6 +135,9 @@ class Connection:
         self.read()
         if reset:
             self.line.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
+        elif not self.ended:
+            self.line.shutdown(socket.SHUT_WR)  # what the station has sent before it hears of it still comes
+            eventually(self.has_ended, "the station does not close")
         self.line.close()
         eventually(self.is_gone, "the station does not let go")
 
@@ -181,10 +188,7 @@ class Player:
         to = re.match(r" to ([A-Z])", rest)
         line = self.open[to.group(1) if to else "C", port]
         if rest.endswith(" closes"):
-            def closed():
-                line.read(0.05)
-                return line.ended
-            return eventually(closed, "the station does not close")
+            return eventually(line.has_ended, "the station does not close")
         line.hears(wire_bytes(rest[rest.index(":") + 1:]))
         self.mode = line.last
         return None
