@@ -4,6 +4,8 @@
 
 #include <random>
 
+#include "support/plain_receiver.h"
+
 namespace quorrin {
 namespace {
 
@@ -148,39 +150,6 @@ TEST(FrameCodec, HandlesAReadFullOfEndMarksInNoTime) {
     for (int i = 0; i < 500'000; ++i) marks += "^\r";
     EXPECT_THAT(commandReads({marks + kMode, kMode}), ElementsAre("Mode", "Mode"));
 }
-
-// The same rules once more, step by step with one-based places and cut texts; slow and plain.
-class PlainReceiver {
-  public:
-    PlainReceiver(FrameRule rule, std::size_t limit) : rule_(rule), limit_(limit) {}
-    Payloads read(const std::string& bytes) {
-        Payloads delivered;
-        if (text_.size() > limit_) text_ = "";
-        text_ = text_ + bytes;
-        std::size_t p = place(text_);
-        while (p > 0) {
-            if (p > 5) {
-                for (std::size_t i = 1; i <= p - 2; ++i) {
-                    if (text_[i - 1] != '^' || text_[i] != '\x02') continue;
-                    if (p - i > 5) delivered.push_back(text_.substr(i + 2 - 1, p - i - 2));
-                    break;
-                }
-            }
-            text_ = text_.substr(p + 2 - 1);
-            if (text_.size() < 6) break;
-            const std::size_t next = place(text_);
-            if (rule_ == FrameRule::equalLength && next != p) break;
-            p = next;
-        }
-        return delivered;
-    }
-
-  private:
-    static std::size_t place(const std::string& text) { return text.find("^\r") + 1; }
-    FrameRule rule_;
-    std::size_t limit_;
-    std::string text_;
-};
 
 std::string randomStream(std::minstd_rand& random) {
     static const std::vector<std::string> pieces = {kMode,
