@@ -59,17 +59,17 @@ class Session:
         self.station = None
         self.offset = None
 
-    def start(self, output, program, *arguments):
+    def start(self, output, program, *arguments, stdin=subprocess.DEVNULL):
         with open(self.folder / output, "ab") as file:
-            return subprocess.Popen([self.bin / program, *arguments], stdin=subprocess.DEVNULL, stdout=file,
-                                    stderr=file, env=self.environment, start_new_session=True)
+            return subprocess.Popen([self.bin / program, *arguments], stdin=stdin, stdout=file, stderr=file,
+                                    env=self.environment, start_new_session=True)
 
-    def start_station(self, program="quorrin-station-headless", environment=()):
+    def start_station(self, program="quorrin-station-headless", environment=(), stdin=subprocess.DEVNULL):
         self.environment.update(environment)
         eventually(lambda: self.truth(), 10, "the robot's truth file")
         self.measure_offset()
         self.output_file.unlink(missing_ok=True)
-        self.station = self.start("station.out", program)
+        self.station = self.start("station.out", program, stdin=stdin)
         self.started = time.monotonic()
 
     def __enter__(self):
