@@ -62,37 +62,10 @@ TEST_F(VirtualSocketsTest, ACallIsAcceptedOnAnElementThatKeepsWhoItWas) {
     EXPECT_EQ(client->localPort(), 7000);
 }
 
-TEST_F(VirtualSocketsTest, ACallThatNobodyAcceptsIsGoneWithItsEvent) {
-    listener->listen();
-    answer = false;
-    std::int64_t request = 0;
-    listener->onConnectionRequest = [&](std::int64_t asked) { request = asked; };
-    sockets.connect("wsk", "10.0.0.5", 4711);
-    client->accept(request);
-    EXPECT_EQ(client->state(), SocketState::closed);
-}
-
 TEST_F(VirtualSocketsTest, NobodyCallsWhereNothingListens) {
     sockets.connect("wsk", "10.0.0.5", 4711);
     sockets.connect("other", "10.0.0.5", 4711);
     EXPECT_THAT(log, IsEmpty());
-}
-
-TEST_F(VirtualSocketsTest, ReadsGiveWhatIsAskedForAndKeepTheRest) {
-    connected();
-    std::string first;
-    client->onDataArrival = [&] { first = client->read(2); };
-    sockets.receive("wsk", 1, "abcd");
-    EXPECT_EQ(first, "ab");
-    EXPECT_EQ(client->bytesReceived(), 2U);
-    EXPECT_EQ(client->read(100), "cd");
-}
-
-TEST_F(VirtualSocketsTest, AnElementWithoutADataHandlerThrowsItsBytesAway) {
-    connected();
-    client->onDataArrival = nullptr;
-    sockets.receive("wsk", 1, "abcd");
-    EXPECT_EQ(client->bytesReceived(), 0U);
 }
 
 TEST_F(VirtualSocketsTest, AnOrderlyCloseIsTheCloseEventOnly) {
@@ -102,14 +75,6 @@ TEST_F(VirtualSocketsTest, AnOrderlyCloseIsTheCloseEventOnly) {
     client->close();
     client->close();
     EXPECT_THAT(log, ElementsAre("client closed", "shut wsk 1"));
-}
-
-TEST_F(VirtualSocketsTest, AFailureIsTheErrorEventOnly) {
-    connected();
-    sockets.fail("wsk", 1);
-    EXPECT_EQ(client->state(), SocketState::failed);
-    clock.runFor(5000);
-    EXPECT_THAT(log, ElementsAre("client failed"));
 }
 
 TEST_F(VirtualSocketsTest, NothingHappensOnAnElementThatIsNotConnected) {
@@ -137,33 +102,6 @@ TEST_F(VirtualSocketsTest, AListenOnATakenPortFailsASecondLater) {
     listener->listen();
     EXPECT_EQ(listener->state(), SocketState::listening);
     EXPECT_EQ(listener->listenError(), "");
-}
-
-TEST_F(VirtualSocketsTest, AClosedListenerForgetsItsFailure) {
-    sockets.setPortTaken(7000, true);
-    listener->listen();
-    listener->close();
-    clock.runFor(5000);
-    EXPECT_THAT(log, ElementsAre("shut wsk 0"));
-}
-
-TEST_F(VirtualSocketsTest, AClosedOrDestroyedElementForgetsAnErrorUnderWay) {
-    connected();
-    sockets.setSlow("wsk", 1);
-    client->send(std::string(kSocketSendBound, 'x'));
-    client->send("y");
-    client->close();
-    clock.runFor(10);
-    EXPECT_EQ(log.back(), "shut wsk 1");
-
-    connected();
-    sockets.setSlow("wsk", 1);
-    client->send(std::string(kSocketSendBound, 'x'));
-    client->send("y");
-    client.reset();
-    log.clear();
-    clock.runFor(10);
-    EXPECT_THAT(log, IsEmpty());
 }
 
 TEST_F(VirtualSocketsTest, ASlowPeerIsGivenOneMebibyteAndThenFails) {
