@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "imaging/test_pictures.h"
+#include "support/test_pictures.h"
 
 namespace quorrin {
 namespace {

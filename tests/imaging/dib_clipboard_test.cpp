@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "imaging/dib_section.h"
-#include "imaging/test_pictures.h"
 #include "platform/virtual/scripted_boxes.h"
+#include "support/test_pictures.h"
 
 namespace quorrin {
 namespace {

@@ -6,8 +6,8 @@
 #include <random>
 
 #include "base/program_error.h"
-#include "imaging/test_pictures.h"
 #include "platform/virtual/virtual_clock.h"
+#include "support/test_pictures.h"
 
 namespace quorrin {
 namespace {

@@ -5,8 +5,8 @@
 #include <cstring>
 #include <random>
 
-#include "imaging/picture_files.h"
 #include "imaging/picture_loader.h"
+#include "support/picture_files.h"
 
 namespace quorrin {
 namespace {

@@ -9,9 +9,9 @@
 #include "imaging/bmp_picture.h"
 #include "imaging/intel_jpeg_library.h"
 #include "imaging/jpeg_picture.h"
-#include "imaging/picture_files.h"
 #include "imaging/turbo_jpeg_library.h"
 #include "platform/virtual/memory_files.h"
+#include "support/picture_files.h"
 
 namespace quorrin {
 namespace {

@@ -6,8 +6,8 @@
 
 #include "base/program_error.h"
 #include "imaging/intel_jpeg_library.h"
-#include "imaging/test_pictures.h"
 #include "platform/virtual/memory_files.h"
+#include "support/test_pictures.h"
 
 namespace quorrin {
 namespace {

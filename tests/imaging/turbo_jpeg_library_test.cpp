@@ -7,10 +7,10 @@
 
 #include "imaging/intel_jpeg_library.h"
 #include "imaging/picture_loader.h"
-#include "imaging/test_pictures.h"
 #include "platform/host/posix_files.h"
 #include "platform/virtual/memory_files.h"
 #include "support/temp_folder.h"
+#include "support/test_pictures.h"
 
 namespace quorrin {
 namespace {

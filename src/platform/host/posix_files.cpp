@@ -27,10 +27,25 @@ std::string folderOf(const std::string& path) {
     return slash == std::string::npos ? "." : slash == 0 ? "/" : path.substr(0, slash);
 }
 
-// Where a path leads once links are followed; the path itself when nothing is there yet.
-std::string followed(const std::string& path) {
+// What stands at a path before it is replaced.
+struct Place {
+    std::string path;  // where it leads once links are followed
+    mode_t permissions;
+};
+
+mode_t freshPermissions() {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+Place placeOf(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0) return {path, freshPermissions()};
+    if (!S_ISLNK(status.st_mode)) return {path, status.st_mode & 07777};
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr), &std::free);
-    return real ? std::string(real.get()) : path;
+    const std::string target = real ? real.get() : path;
+    return {target, ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : freshPermissions()};
 }
 
 bool writeAll(int descriptor, std::string_view content) {
@@ -42,14 +57,6 @@ bool writeAll(int descriptor, std::string_view content) {
         done += static_cast<std::size_t>(step);
     }
     return true;
-}
-
-mode_t permissionsFor(const std::string& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == 0) return status.st_mode & 07777;
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
 }
 
 std::int64_t nanoseconds(const timespec& time) {
@@ -106,19 +113,18 @@ bool PosixFiles::replaceOrTell(const std::string& path, std::string_view content
 }
 
 bool PosixFiles::replace(const std::string& path, std::string_view content, Reach reach) {
-    const std::string target = followed(path);
-    std::string temporary = target + ".XXXXXX";
+    const Place target = placeOf(path);
+    std::string temporary = target.path + ".XXXXXX";
     FileHandle handle(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!handle.valid()) return false;
-    const bool written = writeAll(handle.get(), content) &&
-                         ::fchmod(handle.get(), permissionsFor(target)) == 0 &&
+    const bool written = writeAll(handle.get(), content) && ::fchmod(handle.get(), target.permissions) == 0 &&
                          (reach == Reach::reader || ::fsync(handle.get()) == 0);
     const bool closed = handle.closeNow();
-    if (!written || !closed || ::rename(temporary.c_str(), target.c_str()) != 0) {
+    if (!written || !closed || ::rename(temporary.c_str(), target.path.c_str()) != 0) {
         ::unlink(temporary.c_str());
         return false;
     }
-    if (reach == Reach::disk) bringFolderToDisk(folderOf(target));
+    if (reach == Reach::disk) bringFolderToDisk(folderOf(target.path));
     return true;
 }
 

@@ -5,9 +5,9 @@
 #include <string>
 
 #include "imaging/intel_jpeg_library.h"
-#include "imaging/test_pictures.h"
 #include "imaging/turbo_jpeg_library.h"
 #include "platform/virtual/memory_files.h"
+#include "support/test_pictures.h"
 
 namespace quorrin {
 
