@@ -1,5 +1,7 @@
 #include "platform/virtual/virtual_sockets.h"
 
+#include <utility>
+
 #include "platform/timer_mm.h"
 
 namespace quorrin {
@@ -12,7 +14,10 @@ class VirtualSocket : public Socket {
         late_.setPeriodic(false);
         late_.setHandler([this] { arriveFailed(); });
     }
-    ~VirtualSocket() override { owner_.elements_.erase({array_, element_}); }
+    ~VirtualSocket() override {
+        owner_.elements_.erase({array_, element_});
+        tellPeerOfTheEnd();
+    }
 
     SocketState state() const override { return state_; }
     std::string remoteHost() const override { return peer_.host; }
@@ -37,9 +42,10 @@ class VirtualSocket : public Socket {
 
     void accept(std::int64_t request) override {
         if (state_ != SocketState::closed) return;
-        const auto call = owner_.calls_.extract(request);
-        if (!call) return;
-        peer_ = call.mapped();
+        const auto call = owner_.calls_.find(request);
+        if (call == owner_.calls_.end() || call->second.takenBy >= 0) return;
+        call->second.takenBy = element_;
+        peer_ = call->second;
         localPort_ = peer_.toPort;
         state_ = SocketState::connected;
         if (owner_.onAccept) owner_.onAccept(array_, element_);
@@ -54,6 +60,7 @@ class VirtualSocket : public Socket {
         late_.setEnabled(false);
         failure_.reset();
         if (owner_.onShut) owner_.onShut(array_, element_);
+        tellPeerOfTheEnd();
     }
 
     std::size_t bytesReceived() const override { return unread_.size(); }
@@ -72,6 +79,12 @@ class VirtualSocket : public Socket {
         }
         if (slow_) held_ += bytes.size();
         if (owner_.onSend) owner_.onSend(array_, element_, bytes);
+        if (!slow_ && peer_.peer.onBytes) peer_.peer.onBytes(bytes);
+    }
+
+    void tellPeerOfTheEnd() {
+        const VirtualPeer peer = std::exchange(peer_.peer, {});
+        if (peer.onShut) peer.onShut();
     }
 
     template <typename... Args>
@@ -128,15 +141,25 @@ VirtualSocket* VirtualSockets::connected(const std::string& array, int element) 
     return socket != nullptr && socket->state_ == SocketState::connected ? socket : nullptr;
 }
 
-void VirtualSockets::connect(const std::string& array, const std::string& fromIP, int fromPort,
-                             const std::string& fromHost) {
+int VirtualSockets::connect(const std::string& array, const std::string& fromIP, int fromPort,
+                            const std::string& fromHost, VirtualPeer peer) {
     VirtualSocket* listener = find(array, 0);
-    if (listener == nullptr || listener->state_ != SocketState::listening) return;
+    if (listener == nullptr || listener->state_ != SocketState::listening) return -1;
     const std::int64_t request = ++lastRequest_;
-    listener->peer_ = {fromHost, fromIP, fromPort, listener->localPort_};
-    calls_[request] = listener->peer_;
+    listener->peer_ = {fromHost, fromIP, fromPort, listener->localPort_, {}, -1};
+    Call& call = calls_[request] = listener->peer_;
+    call.peer = std::move(peer);
     VirtualSocket::run(listener->onConnectionRequest, request);
-    calls_.erase(request);
+    const auto done = calls_.extract(request);
+    return done ? done.mapped().takenBy : -1;
+}
+
+std::string VirtualSockets::listeningOn(int port) const {
+    for (const auto& [place, socket] : elements_) {
+        if (place.second == 0 && socket->state_ == SocketState::listening && socket->localPort_ == port)
+            return place.first;
+    }
+    return "";
 }
 
 void VirtualSockets::receive(const std::string& array, int element, const std::string& bytes) {

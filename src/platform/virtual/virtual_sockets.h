@@ -5,8 +5,9 @@
 // clock's queue does so under source(array), so that the no-re-entry rule is the clock's. A listen on a port
 // that was made to fail fails until it is made good again, and says so after kListenRetryMs.
 //
-// Bytes that are sent leave at once (to onSend), unless the peer was made slow: then kSocketSendBound of them
-// are held, and one byte more is a socket error. Must outlive its sockets.
+// Bytes that are sent leave at once (to onSend, and to the caller where it gave a VirtualPeer), unless the
+// peer was made slow: then kSocketSendBound of them are held, and one byte more is a socket error. Must
+// outlive its sockets.
 #pragma once
 
 #include <cstdint>
@@ -24,6 +25,13 @@ namespace quorrin {
 
 class VirtualSocket;
 
+// What a caller in the same process hears of the element that took its call. The element's end (closed,
+// destroyed) is told once, and nothing after it.
+struct VirtualPeer {
+    std::function<void(std::string_view bytes)> onBytes;
+    std::function<void()> onShut;
+};
+
 class VirtualSockets : public Sockets {
   public:
     explicit VirtualSockets(Clock& clock) : clock_(clock) {}
@@ -33,9 +41,12 @@ class VirtualSockets : public Sockets {
     // The array's handler; there is one for each name, whether it has elements or not.
     EventSource& source(const std::string& array) { return sources_[array]; }
 
-    // A client asks to connect. Nothing happens where element 0 does not listen.
-    void connect(const std::string& array, const std::string& fromIP, int fromPort,
-                 const std::string& fromHost = "");
+    // A client asks to connect. Nothing happens where element 0 does not listen. Returns the element that
+    // took the call, or -1.
+    int connect(const std::string& array, const std::string& fromIP, int fromPort,
+                const std::string& fromHost = "", VirtualPeer peer = {});
+    // The array that listens on that port; "" for none.
+    std::string listeningOn(int port) const;
     // On an element that is not connected nothing happens in these three.
     void receive(const std::string& array, int element, const std::string& bytes);
     void hangUp(const std::string& array, int element);
@@ -63,6 +74,8 @@ class VirtualSockets : public Sockets {
         std::string ip;
         int port = 0;
         int toPort = 0;
+        VirtualPeer peer;
+        int takenBy = -1;
     };
 
     VirtualSocket* find(const std::string& array, int element) const;
@@ -73,7 +86,7 @@ class VirtualSockets : public Sockets {
     std::map<std::string, EventSource> sources_;
     std::map<std::pair<std::string, int>, VirtualSocket*> elements_;
     std::set<int> takenPorts_;
-    std::map<std::int64_t, Call> calls_;  // that nobody has taken yet, by request
+    std::map<std::int64_t, Call> calls_;  // whose request is being handled
     std::int64_t lastRequest_ = 0;
 };
 
