@@ -1,0 +1,142 @@
+#include "client/script.h"
+
+#include <charconv>
+#include <stdexcept>
+
+#include "client/spoken_text.h"
+
+namespace quorrin {
+
+namespace {
+
+constexpr std::int64_t kLongestMs = 60 * 60 * 1000;
+constexpr const char* kBlanks = " \t\r";
+
+std::string_view trimmed(std::string_view text) {
+    const std::size_t from = text.find_first_not_of(kBlanks);
+    if (from == std::string_view::npos) return {};
+    return text.substr(from, text.find_last_not_of(kBlanks) - from + 1);
+}
+
+// The first word, cut off the text.
+std::string_view takeWord(std::string_view& text) {
+    text = trimmed(text);
+    const std::string_view word = text.substr(0, text.find_first_of(kBlanks));
+    text.remove_prefix(word.size());
+    text = trimmed(text);
+    return word;
+}
+
+std::string quoted(std::string_view text) {
+    return "\"" + std::string(text) + "\"";
+}
+
+std::int64_t number(std::string_view text, std::int64_t lowest, std::int64_t highest) {
+    std::int64_t value = 0;
+    const char* end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (error != std::errc{} || stop != end || value < lowest || value > highest)
+        throw std::invalid_argument(quoted(text) + " is no whole number from " + std::to_string(lowest) +
+                                    " to " + std::to_string(highest));
+    return value;
+}
+
+void nothingMore(std::string_view rest) {
+    if (!rest.empty()) throw std::invalid_argument("what is " + quoted(rest) + "?");
+}
+
+step::HangUp hangUp(std::string_view rest) {
+    if (rest.empty()) return {};
+    const auto channel = channelNamed(rest);
+    if (!channel)
+        throw std::invalid_argument("no channel " + quoted(rest) +
+                                    "; there are command, sensor, video, audio, voice, speech");
+    return {channel};
+}
+
+step::Drive drive(std::string_view rest) {
+    DriveFields fields;
+    for (int* field : {&fields.steering, &fields.gas, &fields.brake, &fields.headUpDown,
+                       &fields.headLeftRight, &fields.mouth, &fields.avoidance}) {
+        if (rest.empty()) throw std::invalid_argument("drive needs seven numbers");
+        *field = static_cast<int>(number(takeWord(rest), INT16_MIN, INT16_MAX));
+    }
+    nothingMore(rest);
+    return {fields};
+}
+
+step::Ping ping(std::string_view rest) {
+    if (rest != "on" && rest != "off") throw std::invalid_argument("ping needs on or off");
+    return {rest == "on"};
+}
+
+step::Expect expect(std::string_view rest) {
+    constexpr std::string_view kWithin = " within ";
+    const std::size_t within = rest.rfind(kWithin);
+    if (takeWord(rest) != "report" || within == std::string_view::npos)
+        throw std::invalid_argument("it is: expect report REGEX within MS");
+    const std::size_t at = rest.rfind(kWithin);
+    if (at == std::string_view::npos || at == 0)
+        throw std::invalid_argument("it is: expect report REGEX within MS");
+    const std::string expression(trimmed(rest.substr(0, at)));
+    const std::int64_t ms = number(trimmed(rest.substr(at + kWithin.size())), 0, kLongestMs);
+    try {
+        return {std::regex(expression), ms};
+    } catch (const std::regex_error&) {
+        throw std::invalid_argument(quoted(expression) + " is no regular expression");
+    }
+}
+
+step::Say say(std::string_view rest) {
+    if (rest.empty()) throw std::invalid_argument("say needs a text");
+    const auto bytes = spokenBytes(rest);
+    if (!bytes) throw std::invalid_argument("the text has a character that Windows-1252 has not");
+    return {*bytes};
+}
+
+RemoteStep::What parseLine(std::string_view line) {
+    std::string_view rest = line;
+    const std::string_view verb = takeWord(rest);
+    if (verb == "hangup") return hangUp(rest);
+    if (verb == "drive") return drive(rest);
+    if (verb == "ping") return ping(rest);
+    if (verb == "wait") return step::Wait{number(rest, 0, kLongestMs)};
+    if (verb == "expect") return expect(rest);
+    if (verb == "say") return say(rest);
+    RemoteStep::What what;
+    if (verb == "connect") {
+        what = step::Connect{};
+    } else if (verb == "mode") {
+        what = step::Mode{};
+    } else if (verb == "clos") {
+        what = step::Clos{};
+    } else if (verb == "quit") {
+        what = step::Quit{};
+    } else {
+        throw std::invalid_argument("no verb " + quoted(verb));
+    }
+    nothingMore(rest);
+    return what;
+}
+
+}  // namespace
+
+RemoteScript parseRemoteScript(std::string_view text) {
+    RemoteScript script;
+    for (int line = 1; !text.empty(); ++line) {
+        const std::size_t end = text.find('\n');
+        const std::string_view content = trimmed(text.substr(0, end));
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        if (content.empty() || content[0] == '#') continue;
+        try {
+            script.steps.push_back({line, std::string(content), parseLine(content)});
+        } catch (const std::invalid_argument& fault) {
+            script.error = "line " + std::to_string(line) + ": " + fault.what();
+            script.steps.clear();
+            return script;
+        }
+    }
+    return script;
+}
+
+}  // namespace quorrin
