@@ -281,6 +281,44 @@ TYPED_TEST_P(SocketsContract, AnElementMayBeDestroyedInItsDataHandler) {
     EXPECT_THAT(this->log, testing::ElementsAre("data"));
 }
 
+TYPED_TEST_P(SocketsContract, AResetInsideAHandlerIsToldAfterIt) {
+    const int caller = this->connected();
+    const int other = this->connected(2);
+    this->element().onDataArrival = [this, caller, other] {
+        this->log.emplace_back("begins");
+        this->fixture.reset(caller);
+        this->fixture.reset(other);
+        this->element().send("too late");
+        this->log.emplace_back("ends");
+    };
+    this->fixture.say(caller, "x");
+    EXPECT_TRUE(this->logged("failed 1"));
+    EXPECT_TRUE(this->logged("failed 2"));
+    ASSERT_EQ(this->log.size(), 4U);
+    EXPECT_EQ(this->log[0], "begins");
+    EXPECT_EQ(this->log[1], "ends");
+}
+
+TYPED_TEST_P(SocketsContract, AResetInsideAnothersCloseOrErrorHandlerIsToldAfterIt) {
+    for (const bool close : {true, false}) {
+        const int caller = this->connected();
+        const int other = this->connected(2);
+        const auto handler = [this, other] {
+            this->fixture.reset(other);
+            this->log.emplace_back("handled");
+        };
+        this->element().onClose = handler;
+        this->element().onError = handler;
+        if (close) {
+            this->fixture.hangUp(caller);
+        } else {
+            this->fixture.reset(caller);
+        }
+        EXPECT_TRUE(this->logged("failed 2"));
+        EXPECT_THAT(this->log, testing::ElementsAre("handled", "failed 2"));
+    }
+}
+
 TYPED_TEST_P(SocketsContract, AnElementMayBeDestroyedInItsCloseAndErrorHandlers) {
     int caller = this->connected();
     this->element().onClose = [this] {
@@ -402,7 +440,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     AnOrderlyCloseIsTheCloseEventOnly, AResetIsTheErrorEventOnly, AClosedElementTellsItsCaller,
     NothingOfAClosedElementIsToldAnyMore, AnElementThatIsNotConnectedTakesNothing,
     ACallerThatTakesNothingIsHeldTheBoundAndThenIsAnError,
-    AnErrorUnderWayIsForgottenByACloseAndByADestruction, AnElementMayBeDestroyedInItsDataHandler,
+    AnErrorUnderWayIsForgottenByACloseAndByADestruction, AResetInsideAHandlerIsToldAfterIt,
+    AResetInsideAnothersCloseOrErrorHandlerIsToldAfterIt, AnElementMayBeDestroyedInItsDataHandler,
     AnElementMayBeDestroyedInItsCloseAndErrorHandlers,
     AnElementThatIsClosedInItsDataHandlerIsNotToldOfTheEndBehind,
     ACallWhileAllElementsAreTakenIsRefusedAndAFreedOneTakesTheNext,
