@@ -70,6 +70,15 @@ TEST_F(PosixFilesTest, ListsPlainFilesOnlyAndSorted) {
     EXPECT_TRUE(files.filesIn(path("none")).empty());
 }
 
+TEST_F(PosixFilesTest, ListsALinkToAFileAndNoneToAFolder) {
+    ASSERT_TRUE(files.writeWhole(path("a"), ""));
+    ASSERT_TRUE(files.createFolder(path("sub")));
+    ASSERT_EQ(::symlink("a", path("to_file").c_str()), 0);
+    ASSERT_EQ(::symlink("sub", path("to_folder").c_str()), 0);
+    ASSERT_EQ(::symlink("none", path("to_nothing").c_str()), 0);
+    EXPECT_EQ(files.filesIn(folder.path()), (std::vector<std::string>{"a", "to_file"}));
+}
+
 TEST_F(PosixFilesTest, CopiesAndRemoves) {
     ASSERT_TRUE(files.writeWhole(path("a"), "content"));
     EXPECT_TRUE(files.copy(path("a"), path("b")));

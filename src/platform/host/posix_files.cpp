@@ -152,7 +152,10 @@ std::vector<std::string> PosixFiles::filesIn(const std::string& folder) {
     std::vector<std::string> names;
     if (!handle) return names;
     while (const dirent* entry = ::readdir(handle.get())) {
-        if (hasKind(folder + "/" + entry->d_name, S_IFREG)) names.emplace_back(entry->d_name);
+        // Most file systems tell the kind along with the name; only a link has to be followed.
+        const bool told = entry->d_type != DT_UNKNOWN && entry->d_type != DT_LNK;
+        const bool file = told ? entry->d_type == DT_REG : hasKind(folder + "/" + entry->d_name, S_IFREG);
+        if (file) names.emplace_back(entry->d_name);
     }
     std::sort(names.begin(), names.end());
     return names;
