@@ -228,6 +228,28 @@ TEST_F(CommandChannelTest, FurtherCommandsDoNotPutTheTimerOff) {
     EXPECT_FALSE(values.remoteCommandActive);
 }
 
+TEST_F(CommandChannelTest, AFrameOfAnotherLengthInTheSameReadWaitsForFurtherBytes) {
+    gui.connCheckTicks = 50;
+    values.manualPanelActive = true;
+    read(frameOf("PING") + frameOf("PING") + frameOf("20,0,0,2000,2000,3,1") + frameOf("Clos"));
+    EXPECT_EQ(gui.connCheckTicks, 0);
+    EXPECT_EQ(gui.txtSteeringlevel.text(), "");
+    read("^");
+    EXPECT_EQ(gui.txtSteeringlevel.text(), "20");
+    EXPECT_TRUE(values.manualPanelActive);
+}
+
+TEST_F(CommandChannelTest, ABufferOf4095CharactersIsKeptAndOneMoreIsLost) {
+    const std::string full = "^\x02" + std::string("Clos") + std::string(4095 - 6, 'x');
+    values.manualPanelActive = true;
+    read(full + "x");
+    read("^\r");
+    EXPECT_TRUE(values.manualPanelActive);
+    read(full);
+    read("^\r");
+    EXPECT_FALSE(values.manualPanelActive);
+}
+
 TEST_F(CommandChannelTest, TwoClientsMayMixTheirFrames) {
     call(2);
     values.manualPanelActive = true;

@@ -257,6 +257,13 @@ TEST_F(RemoteCall, APortInUseOfOneChannelLeavesTheOthersUp) {
     EXPECT_THAT(takeSockets(), ElementsAre("accept wskCommand 1", "ring", "accept wskSensor 1"));
 }
 
+TEST_F(RemoteCall, AnElementWithoutAPortListensOn7040AndOneThatListensIsLeftAlone) {
+    const auto element = sockets.create("wskOther", 0);
+    startListening(*element);
+    startListening(*element);
+    EXPECT_THAT(takeSockets(), ElementsAre("listen wskOther 7040"));
+}
+
 TEST(RingTone, IsEightBitMonoOf11025HertzAndALittleUnderASecond) {
     const std::string& wav = *waveResource(101);
     EXPECT_EQ(wav.size(), 10038U);
