@@ -13,6 +13,9 @@ namespace {
 constexpr std::int64_t kPieceMs = 30 * 60 * 1000;
 constexpr std::int64_t kWriteMs = 2000;
 constexpr std::size_t kWriteBytes = 64 * 1024;
+// Four times what half an hour with sound and clients comes to. Clients need no password: one that floods the
+// station shall not fill the disk.
+constexpr std::int64_t kPieceBytes = 256 * 1024 * 1024;
 constexpr const char* kHead = "# flight recording ";
 
 std::string pathOf(const std::string& folder, std::int64_t piece) {
@@ -73,6 +76,7 @@ void FlightRecorder::begin() {
 void FlightRecorder::startPiece() {
     ++piece_;
     pieceBeganMs_ = clock_.nowMs();
+    pieceBytes_ = 0;
     const std::string path = pathOf(folder_, piece_);
     file_ = create_(path);
     if (!file_) {
@@ -121,11 +125,18 @@ void FlightRecorder::settle() {
 
 void FlightRecorder::write() {
     writtenMs_ = clock_.nowMs();
-    if (file_ && !file_->append(settled_)) {
-        complaint_ = "the flight recording " + pathOf(folder_, piece_) + " cannot be written";
-        file_.reset();
+    pieceBytes_ += static_cast<std::int64_t>(settled_.size());
+    if (pieceBytes_ > kPieceBytes) {
+        end("would pass 256 MiB within half an hour and ends");
+    } else if (file_ && !file_->append(settled_)) {
+        end("cannot be written");
     }
     settled_.clear();
+}
+
+void FlightRecorder::end(const char* reason) {
+    complaint_ = "the flight recording " + pathOf(folder_, piece_) + " " + reason;
+    file_.reset();
 }
 
 void FlightRecorder::flush() {

@@ -9,8 +9,8 @@
 // start.
 //
 // The lines of an event are held back until it is over, since the answer to a box that comes up inside it
-// must stand before it. Written every two seconds and at flush(). A recording that cannot be written ends;
-// the session goes on.
+// must stand before it. Written every two seconds and at flush(). A recording that cannot be written, or
+// whose piece would pass 256 MiB, ends; the session goes on.
 #pragma once
 
 #include <cstdint>
@@ -55,6 +55,7 @@ class FlightRecorder {
     void startPiece();
     void settle();
     void write();
+    void end(const char* reason);
     void act(const std::string& prefix, const Form& form, bool mainForm, const OperatorAct& done);
 
     PacedClock& clock_;
@@ -65,6 +66,7 @@ class FlightRecorder {
     std::string complaint_;
     std::int64_t piece_ = 0;  // number of the piece that is being written, from 1 on
     std::int64_t pieceBeganMs_ = 0;
+    std::int64_t pieceBytes_ = 0;
     std::int64_t writtenMs_ = 0;
     std::string settled_;           // lines that can go to the file
     std::int64_t settledMs_ = 0;    // the latest time in lines that have been let go

@@ -59,6 +59,16 @@ TEST_F(SensorChannel, TwoClientsGetTheSameReportEachOnItsOwnElement) {
     EXPECT_THAT(takeSockets(), ElementsAre("send wskSensor 1 0,0,0,,JOY,0", "send wskSensor 2 0,0,0,,JOY,0"));
 }
 
+TEST_F(SensorChannel, AReportGoesToTheElementOfTheLinesPlaceWhoeverThatIs) {
+    session(41000);
+    command("PING");
+    sockets.hangUp("wskCommand", 1);
+    takeSockets();
+    // The second client's line has moved up; there is no look-up by client.
+    gui.txtRobotStatus.setText("JOY");
+    EXPECT_THAT(takeSockets(), ElementsAre("send wskSensor 1 0,0,0,,JOY,0"));
+}
+
 TEST_F(SensorChannel, AClientWithoutASensorConnectionLosesItsReport) {
     call(41000);
     command("PING");

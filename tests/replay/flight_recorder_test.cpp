@@ -310,6 +310,42 @@ TEST(FlightRecorder, AFullDiskEndsTheRecordingAndNotTheSession) {
     EXPECT_THAT(session.output.text(), HasSubstr("SetDriveVelocities"));
 }
 
+// Keeps nothing but the number of bytes.
+class CountingFile : public AppendFile {
+  public:
+    explicit CountingFile(std::size_t& bytes) : bytes_(bytes) {}
+    bool append(std::string_view bytes) override {
+        bytes_ += bytes.size();
+        return true;
+    }
+
+  private:
+    std::size_t& bytes_;
+};
+
+TEST(FlightRecorder, AFloodEndsTheRecordingAheadOf256MebibytesAndDoesNotFillTheDisk) {
+    MemoryFiles files;
+    VirtualClock host;
+    PacedClock clock(host);
+    std::size_t written = 0;
+    FlightRecorder recorder(
+        clock, files, [&](const std::string&) { return std::make_unique<CountingFile>(written); }, "/state");
+    recorder.begin();
+    const std::string flood(1024 * 1024, 'x');
+    const auto floods = [&](int times) {
+        for (int i = 0; i < times; ++i) {
+            clock.arrive([&] { recorder.line(flood); });
+            host.runFor(1);
+        }
+    };
+    floods(250);
+    EXPECT_EQ(recorder.complaint(), "");
+    floods(10);
+    EXPECT_THAT(recorder.complaint(), HasSubstr("/state/flight-1.jsonl would pass 256 MiB"));
+    EXPECT_GT(written, 250U * 1024 * 1024 - 2 * flood.size());
+    EXPECT_LE(written, 256U * 1024 * 1024);
+}
+
 TEST(FlightRecorder, TheAnswerToABoxStandsBeforeTheEventThatAsked) {
     MemoryFiles files;
     files.createFolder("/state");
