@@ -2,6 +2,7 @@
 
 #include "base/rounding.h"
 #include "navigation/teleoperation.h"
+#include "robotlink/gesture.h"
 
 namespace quorrin {
 
@@ -12,8 +13,8 @@ constexpr int kStraight = 5000;
 }  // namespace
 
 ControlPanel::ControlPanel(Clock& clock, PublicValues& values, frmGUI& gui, frmControlPanel& panel,
-                           DragState& drag)
-    : clock_(clock), values_(values), gui_(gui), panel_(panel), drag_(clock, panel, drag) {
+                           DragState& drag, QuorrinSDK& myRobot)
+    : clock_(clock), values_(values), gui_(gui), panel_(panel), drag_(clock, panel, drag), myRobot_(myRobot) {
     bindLife();
     bindBars();
     bindButtons();
@@ -61,6 +62,10 @@ void ControlPanel::Form_Load() {
     panel_.style.alpha = kThreeQuarters;
     panel_.style.topmost = true;
     place();
+}
+
+void ControlPanel::gesture() {
+    fixedGesture(gui_, myRobot_, clock_);
 }
 
 // At the middle of the floor plan's frame, where the main form is at this moment.

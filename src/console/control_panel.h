@@ -15,6 +15,7 @@
 #include "console/frm_control_panel.h"
 #include "console/frm_gui.h"
 #include "console/window_drag.h"
+#include "robotlink/quorrin_sdk.h"
 #include "session/record/public_values.h"
 
 namespace quorrin {
@@ -22,7 +23,8 @@ namespace quorrin {
 class ControlPanel {
   public:
     // All must outlive it.
-    ControlPanel(Clock& clock, PublicValues& values, frmGUI& gui, frmControlPanel& panel, DragState& drag);
+    ControlPanel(Clock& clock, PublicValues& values, frmGUI& gui, frmControlPanel& panel, DragState& drag,
+                 QuorrinSDK& myRobot);
     ControlPanel(const ControlPanel&) = delete;
     ControlPanel& operator=(const ControlPanel&) = delete;
 
@@ -30,6 +32,10 @@ class ControlPanel {
     WindowDrag& drag() { return drag_; }
     // The pending action of the keyboard, "" before the first key.
     const std::string& selectedAction() const { return selectedAction_; }
+
+    // The fixed gesture of the head; holds the station for 7 seconds. It is there for whoever asks for it: no
+    // key and no button of the panel does.
+    void gesture();
 
   private:
     // control_panel.cpp: the form's life
@@ -59,6 +65,7 @@ class ControlPanel {
     frmGUI& gui_;
     frmControlPanel& panel_;
     WindowDrag drag_;
+    QuorrinSDK& myRobot_;
     std::string selectedAction_;
     bool loaded_ = false;
     bool resetting_ = false;  // the controls get their design values, which changes no level

@@ -1,4 +1,5 @@
-// A fixed gesture: six head positions one after the other, ending at neutral. Blocks for 7 seconds.
+// The fixed gesture that the control panel offers: six head positions one after the other, ending at neutral.
+// Blocks for 7 seconds.
 #pragma once
 
 #include "platform/clock.h"

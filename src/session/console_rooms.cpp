@@ -5,7 +5,7 @@
 namespace quorrin {
 
 ConsoleRooms::ConsoleRooms(const StationPorts& ports, const ConsoleForms& forms, SessionSeams& seams)
-    : controlPanel_(ports.clock, forms.values, forms.gui, forms.panel, drag_),
+    : controlPanel_(ports.clock, forms.values, forms.gui, forms.panel, drag_, ports.myRobot),
       zoomCamera_(ports.clock, ports.files, forms.values, forms.gui, forms.zoomCamera, drag_),
       about_(forms.values, forms.gui, forms.about, ports.openWebPage, QUORRIN_VERSION),
       joystick_(ports.joysticks, forms.values, forms.gui, forms.panel) {

@@ -42,6 +42,19 @@ TEST_F(ControlPanelLife, HasTheRangesAndStartsOfItsScales) {
     EXPECT_EQ(panel.scrGas.largeChange, 500);
 }
 
+TEST_F(ControlPanelLife, OffersTheFixedGestureWithTheInstallationsNeutralPositions) {
+    gui.cHeadUpDown = 3600;
+    gui.cHeadLeftRight = 3650;
+    gui.cMouthUpDown = 2900;
+    gui.cEyeUpDown = 3510;
+    gui.cEyeLeftRight = 3490;
+    logic.gesture();
+    ASSERT_EQ(myRobot.operations().size(), 6U);
+    EXPECT_EQ(myRobot.operations().front(), "MoveServosTimed 3900 3650 3400 3500 3500 4200 1000");
+    EXPECT_EQ(myRobot.operations().back(), "MoveServosTimed 3600 3650 2900 0 3510 3490 2000");
+    EXPECT_EQ(clock.nowMs(), 7000);
+}
+
 TEST_F(ControlPanelLife, OfAllBarsOnlyTheBrakesHasItsMaximumAtTheTop) {
     for (const Control* control : panel.controls()) {
         if (const auto* bar = dynamic_cast<const Slider*>(control)) {

@@ -22,8 +22,8 @@ struct PanelBench {
     frmGUI gui{clock};
     frmControlPanel panel{clock};
     DragState dragState;
-    ControlPanel logic{clock, values, gui, panel, dragState};
     FakeLink myRobot;
+    ControlPanel logic{clock, values, gui, panel, dragState, myRobot};
 };
 
 }  // namespace quorrin
