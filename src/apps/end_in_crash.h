@@ -24,7 +24,7 @@ inline int endInCrash(RealStation& real, Terminal& terminal, const std::string& 
     const SignalWatch signals(clock, [] { QCoreApplication::exit(); });
     const auto write = [&] {
         real.recorder.flush();
-        terminal.line("quorrin-station: " + programErrorText(place, what));
+        terminal.line("quorrin-station: " + programErrorLine(place, what));
     };
     PlainBoxes boxes;
     reportCrash(real.myRobot, write, boxes, place, what);

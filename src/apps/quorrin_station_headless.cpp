@@ -8,6 +8,7 @@
 #include "apps/end_by_operator.h"
 #include "apps/real_station.h"
 #include "base/program_error.h"
+#include "console/crash_report.h"
 #include "console/status_line.h"
 #include "platform/host/terminal.h"
 #include "platform/host/terminal_boxes.h"
@@ -75,7 +76,7 @@ int runStation(RealStation& real, Terminal& terminal) {
     });
     status.setInterval(terminal.isTerminal() ? 200 : 1000);
     status.setEnabled(true);
-    real.files.onWriteFailed = [&](const std::string& path) { terminal.line("cannot write " + path); };
+    real.files.onWriteFailed = [&](const std::string& path) { terminal.line(cannotWrite(path)); };
     const SignalWatch signals(real.time, [&] { endByOperator(station); });
     real.beginSession(station);
     real.time.post([&] { logIn(station); });
@@ -90,9 +91,7 @@ int runStation(RealStation& real, Terminal& terminal) {
     } catch (const std::exception& error) {
         stopDrives(real.myRobot);
         real.recorder.flush();
-        const std::string& place = real.time.failedIn();
-        terminal.line("quorrin-station-headless: program error" + (place.empty() ? "" : " in " + place) +
-                      ": " + error.what());
+        terminal.line("quorrin-station-headless: " + programErrorLine(real.time.failedIn(), error.what()));
         return kProgramError;
     }
     return 0;
@@ -102,11 +101,11 @@ int main() {
     Terminal terminal;
     RealStation real;
     if (!real.missingFolder.empty()) {
-        terminal.line("quorrin-station-headless: cannot make the folder " + real.missingFolder);
+        terminal.line("quorrin-station-headless: " + cannotMakeFolder(real.missingFolder));
         return kCannotStart;
     }
     if (!real.claim()) {
-        terminal.line("quorrin-station-headless: another station runs on " + real.host.folders.application);
+        terminal.line("quorrin-station-headless: " + anotherStationRuns(real.host.folders.application));
         return kCannotStart;
     }
     for (const std::string& complaint : real.firstStart()) terminal.line(complaint);

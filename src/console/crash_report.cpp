@@ -7,6 +7,10 @@ std::string programErrorText(const std::string& place, const std::string& what) 
            "\n\nThe drives have been suspended. The station ends.";
 }
 
+std::string programErrorLine(const std::string& place, const std::string& what) {
+    return "program error" + (place.empty() ? "" : " in " + place) + ": " + what;
+}
+
 void reportCrash(QuorrinSDK& myRobot, const std::function<void()>& writeRecording, MessageBoxes& boxes,
                  const std::string& place, const std::string& what) {
     stopDrives(myRobot);

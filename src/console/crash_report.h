@@ -15,6 +15,8 @@ namespace quorrin {
 
 // `place` is the handler that the error came out of, or "".
 std::string programErrorText(const std::string& place, const std::string& what);
+// The same on one line, for a terminal.
+std::string programErrorLine(const std::string& place, const std::string& what);
 void reportCrash(QuorrinSDK& myRobot, const std::function<void()>& writeRecording, MessageBoxes& boxes,
                  const std::string& place, const std::string& what);
 

@@ -37,5 +37,10 @@ TEST(CrashReport, LeavesOutAPlaceThatIsNotKnown) {
     EXPECT_EQ(programErrorText("", "overflow").substr(0, 24), "Program error:\noverflow\n");
 }
 
+TEST(CrashReport, SaysTheSameOnOneLineForATerminal) {
+    EXPECT_EQ(programErrorLine("GPS EstTimer", "overflow"), "program error in GPS EstTimer: overflow");
+    EXPECT_EQ(programErrorLine("", "overflow"), "program error: overflow");
+}
+
 }  // namespace
 }  // namespace quorrin
