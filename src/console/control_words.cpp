@@ -128,4 +128,9 @@ const std::string& pictureWord(const std::string& control, int number) {
     return textIn(words, std::pair(control, number));
 }
 
+std::string pictureCaption(const std::string& control, int number) {
+    const std::string& word = pictureWord(control, number);
+    return controlWords("frmGUI", control).name + (word.empty() ? "" : ": " + word);
+}
+
 }  // namespace quorrin

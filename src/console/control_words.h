@@ -33,5 +33,8 @@ const std::string& frameName(const std::string& group);
 // What the number of a picture says, for pictures that are a sign: pictureWord("imgNetwork", 4). "" for
 // others.
 const std::string& pictureWord(const std::string& control, int number);
+// What stands on a key of the main form that has a picture and no caption: its name and what the picture
+// says, "Mode: IDLE".
+std::string pictureCaption(const std::string& control, int number);
 
 }  // namespace quorrin

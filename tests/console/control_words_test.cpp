@@ -181,6 +181,13 @@ TEST(ControlWords, EveryPictureThatIsASignHasAWord) {
     EXPECT_EQ(pictureWord("imgLogo", 1), "");
 }
 
+TEST(ControlWords, AKeyWithAPictureAndNoCaptionSaysWhatItIsAndWhatThePictureSays) {
+    EXPECT_EQ(pictureCaption("cmdChEn", 1), "Mode: wondering");
+    EXPECT_EQ(pictureCaption("cmdChEn", 2), "Mode: IDLE");
+    EXPECT_EQ(pictureCaption("cmdChEn", 3), "Mode: JOY");
+    EXPECT_EQ(pictureCaption("cmdChEn", 0), "Mode") << "before there is a session";
+}
+
 TEST(MenuWords, EveryEntryHasTextAndTip) {
     for (const MenuEntry entry :
          {MenuEntry::viewMenu, MenuEntry::engineeringView, MenuEntry::lightTheme, MenuEntry::darkTheme}) {

@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
+#include <functional>
+#include <string>
 
 #include "base/controls.h"
 #include "desktop/operator_acts.h"
@@ -29,6 +31,9 @@ void bind(QLabel& widget, Label& control, const OperatorActs& acts);
 // A label that is clicked on, as a link.
 void bindLink(QAbstractButton& widget, Label& control, const OperatorActs& acts);
 void bind(Command& widget, CommandButton& control, const OperatorActs& acts);
+// A key without a caption of its own that says by its picture how things are: `words` are its caption.
+void bind(Command& widget, CommandButton& control, const OperatorActs& acts,
+          std::function<std::string(int picture)> words);
 void bind(QAbstractButton& widget, CommandButton& control, const OperatorActs& acts);
 void bind(QCheckBox& widget, CheckBox& control, const OperatorActs& acts);
 void bind(QRadioButton& widget, OptionButton& control, const OperatorActs& acts);

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "desktop/binding/bind.h"
 #include "desktop/binding/binding.h"
 #include "desktop/binding/caption.h"
@@ -6,12 +8,15 @@ namespace quorrin {
 
 namespace {
 
-// Whatever the widget: it shows the button's caption, and hands on press, release and click.
+using PictureWords = std::function<std::string(int picture)>;
+
+// Whatever the widget: it shows the button's caption, or words for its picture where there are some, and
+// hands on press, release and click.
 template <typename Widget>
 class ButtonBinding : public Binding {
   public:
-    ButtonBinding(Widget& widget, CommandButton& control, const OperatorActs& acts)
-        : Binding(widget, control, acts), widget_(widget), control_(control) {
+    ButtonBinding(Widget& widget, CommandButton& control, const OperatorActs& acts, PictureWords words = {})
+        : Binding(widget, control, acts), widget_(widget), control_(control), words_(std::move(words)) {
         start();
     }
 
@@ -26,11 +31,15 @@ class ButtonBinding : public Binding {
     }
 
   protected:
-    void showValue() override { showCaption(widget_, QString::fromStdString(control_.caption())); }
+    void showValue() override {
+        showCaption(widget_,
+                    QString::fromStdString(words_ ? words_(control_.picture()) : control_.caption()));
+    }
 
   private:
     Widget& widget_;
     CommandButton& control_;
+    PictureWords words_;
 };
 
 class CheckBinding : public Binding {
@@ -85,7 +94,11 @@ void bind(QAbstractButton& widget, CommandButton& control, const OperatorActs& a
 }
 
 void bind(Command& widget, CommandButton& control, const OperatorActs& acts) {
-    auto* const binding = new ButtonBinding(widget, control, acts);
+    bind(widget, control, acts, {});
+}
+
+void bind(Command& widget, CommandButton& control, const OperatorActs& acts, PictureWords words) {
+    auto* const binding = new ButtonBinding(widget, control, acts, std::move(words));
     widget.onPress = [binding] { binding->pressed(); };
     widget.onRelease = [binding] { binding->released(); };
     widget.onClick = [binding] { binding->clicked(); };

@@ -3,9 +3,9 @@
 #include <QHBoxLayout>
 
 #include "console/control_words.h"
+#include "desktop/binding/bind.h"
 #include "desktop/forms/status_strip.h"
 #include "desktop/theme/theme.h"
-#include "desktop/widgets/command.h"
 
 namespace quorrin {
 
@@ -18,7 +18,10 @@ constexpr int kKeyIcon = 24;  // logical pixels
 }  // namespace
 
 KeyBar::KeyBar(Placing& place, CommandButton& modeKey, QWidget* parent)
-    : QWidget(parent), modeKey_(modeKey), modeWidget_(place.key("cmdChEn", IconName::idle)) {
+    : QWidget(parent), modeKey_(modeKey), modeWidget_(new Command) {
+    bind(*modeWidget_, modeKey, place.acts(),
+         [&modeKey](int picture) { return pictureCaption(modeKey.name(), picture); });
+    place.factory().dress(*modeWidget_, modeKey);
     QHBoxLayout* const keys =
         row({modeWidget_, place.key("cmdExpandSetting", IconName::settings),
              place.key("cmdShowControlPanel", IconName::panel), place.key("cmdListen", IconName::listen),
@@ -41,8 +44,8 @@ KeyBar::KeyBar(Placing& place, CommandButton& modeKey, QWidget* parent)
 
 void KeyBar::showMode() {
     setKeyPicture(*modeWidget_, modePicture(modeKey_.picture()));
-    modeWidget_->setAccessibleDescription(
-        QString::fromStdString(pictureWord(modeKey_.name(), modeKey_.picture())));
+    modeWidget_->setAccessibleName(
+        QString::fromStdString(pictureCaption(modeKey_.name(), modeKey_.picture())));
 }
 
 }  // namespace quorrin
