@@ -6,6 +6,7 @@
 #include <set>
 
 #include "desktop/dashboard_bench.h"
+#include "desktop/widgets/command.h"
 #include "desktop/widgets/lamp.h"
 
 namespace quorrin {
@@ -21,8 +22,8 @@ QImage pictureOf(QWidget& widget) {
 
 TEST_F(Dashboard, HasAWidgetForEveryControlThatIsToBeSeen) {
     open();
-    // They only carry a picture.
-    const std::set<std::string> unseen = {"picTest", "RoomPic"};
+    // It only carries a picture.
+    const std::set<std::string> unseen = {"picTest"};
     std::vector<std::string> missing;
     for (const Control* control : bench.gui.controls()) {
         if (dynamic_cast<const Timer*>(control) != nullptr || unseen.contains(control->name())) continue;
@@ -235,6 +236,50 @@ TEST_F(Dashboard, NamesEverythingThatCanBeReachedForThoseWhoDoNotSeeIt) {
             nameless.push_back(widget->objectName().toStdString());
     }
     EXPECT_THAT(nameless, IsEmpty());
+}
+
+TEST_F(Dashboard, DrawsOnlyWhileItsWindowIsShown) {
+    open();
+    EXPECT_TRUE(window->drawing());
+    window->hide();
+    EXPECT_FALSE(window->drawing());
+    window->show();
+    EXPECT_TRUE(window->drawing());
+}
+
+TEST_F(Dashboard, ShowsWhatHasChangedWhileItWasHiddenAsSoonAsItIsShown) {
+    open();
+    window->hide();
+    bench.values.tickEnabled = true;
+    bench.values.robotMode = 10;
+    window->show();
+    EXPECT_EQ(find<GlanceTile>("glance.0").glance().word, "wondering");
+}
+
+TEST_F(Dashboard, WritesTheModeOnTheModeKeyAndSaysIt) {
+    open();
+    auto& key = find<Command>("cmdChEn");
+    for (const auto& [picture, caption] :
+         {std::pair(1, "Mode: wondering"), {3, "Mode: JOY"}, {2, "Mode: IDLE"}}) {
+        bench.gui.cmdChEn.setPicture(picture);
+        EXPECT_EQ(key.caption().toStdString(), caption);
+        EXPECT_EQ(key.accessibleName().toStdString(), caption);
+    }
+    EXPECT_EQ(bench.gui.cmdChEn.caption(), "") << "the form's own key has a picture only";
+}
+
+TEST_F(Dashboard, KeepsTheModeOnTheModeKeyWhenItIsClicked) {
+    open();
+    bench.gui.cmdChEn.setPicture(2);
+    click("cmdChEn");
+    EXPECT_EQ(find<Command>("cmdChEn").caption().toStdString(), "Mode: IDLE");
+}
+
+TEST_F(Dashboard, ClosesTheEngineeringViewByTheShortcutOfItsKey) {
+    open();
+    press(Qt::Key_F9);
+    press(Qt::Key_F9, Qt::ShiftModifier);
+    EXPECT_FALSE(window->engineering().isVisible());
 }
 
 TEST_F(Dashboard, IsReachedByTabInReadingOrder) {

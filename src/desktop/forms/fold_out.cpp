@@ -1,8 +1,10 @@
 #include "desktop/forms/fold_out.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "desktop/forms/placing.h"
 #include "desktop/theme/theme.h"
@@ -10,7 +12,7 @@
 namespace quorrin {
 
 FoldOut::FoldOut(const QString& title, QWidget* closeKey, QWidget* contents, QWidget* over)
-    : QWidget(over), area_(new QScrollArea), contents_(contents), head_(new QWidget) {
+    : QWidget(over), area_(new QScrollArea), closeKey_(closeKey), contents_(contents), head_(new QWidget) {
     const Theme& theme = currentTheme();
     ShadowLabel* const label = captionLabel(title);
     QFont large = label->font();
@@ -40,6 +42,25 @@ QSize FoldOut::wholeSize() const {
     const QSize needed = contents_->minimumSizeHint();
     return {needed.width() + 2 * theme.space + 14,
             needed.height() + head_->minimumSizeHint().height() + 2 * theme.gap + theme.space + 2};
+}
+
+bool FoldOut::event(QEvent* event) {
+    if (event->type() == QEvent::HideToParent) open_ = false;
+    return QWidget::event(event);
+}
+
+void FoldOut::showEvent(QShowEvent*) {
+    if (std::exchange(open_, true)) return;
+    raise();
+    before_ = window()->focusWidget();
+    closeKey_->setFocus(Qt::OtherFocusReason);
+}
+
+void FoldOut::hideEvent(QHideEvent*) {
+    const bool onlyTheWindow = !isHidden();
+    const QWidget* const holder = window()->focusWidget();
+    if (onlyTheWindow || holder == nullptr || !isAncestorOf(holder)) return;
+    if (before_ && before_->isVisible() && before_->isEnabled()) before_->setFocus(Qt::OtherFocusReason);
 }
 
 void FoldOut::paintEvent(QPaintEvent*) {

@@ -5,14 +5,16 @@
 #include <QResizeEvent>
 #include <QScreen>
 #include <QToolButton>
+#include <algorithm>
+#include <utility>
 
 #include "console/control_words.h"
 #include "console/menu_words.h"
-#include "desktop/binding/bind.h"
 #include "desktop/forms/key_bar.h"
+#include "desktop/forms/plan_group.h"
+#include "desktop/forms/tab_walk.h"
 #include "desktop/theme/theme.h"
 #include "desktop/widgets/icon_view.h"
-#include "desktop/widgets/map_scroller.h"
 
 namespace quorrin {
 
@@ -62,7 +64,7 @@ MainWindow::MainWindow(frmGUI& gui, const PublicValues& values, const Form& pane
     middle->addWidget(left_, 0);
     // The control panel comes up with its corner in the middle of the plan, so the plan has the panel's room
     // to its right.
-    middle->addWidget(plan(place), 1);
+    middle->addWidget(planGroup(place, gui), 1);
     middle->addWidget(camera(place), 1);
     all->addWidget(body_, 1);
     all->addWidget(new KeyBar(place, gui.cmdChEn));
@@ -134,13 +136,6 @@ QWidget* MainWindow::camera(Placing& place) {
     return group("fra(9)", contents);
 }
 
-QWidget* MainWindow::plan(Placing& place) {
-    Group* const made = group("fraMapDisplay", column({new MapScroller(make_, gui_, place.acts())}));
-    make_.dress(*made, gui_.fraMapDisplay);
-    bind(*made, gui_.fraMapDisplay, place.acts());
-    return made;
-}
-
 void MainWindow::refresh() {
     const DashboardGlances now = glances(values_, gui_, panelForm_);
     strip_->show(now, gui_.cmdChEn.picture());
@@ -165,14 +160,23 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
     placePanels();
 }
 
+bool MainWindow::focusNextPrevChild(bool next) {
+    return walkByTab(*this, next, {&setting_->panel(), &sensor_->panel()});
+}
+
 void MainWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (ordered_) return;
-    ordered_ = true;
-    orderTabsByReading(*this);
-    placePanels();
+    if (!std::exchange(ordered_, true)) {
+        orderTabsByReading(*this);
+        placePanels();
+    }
     refresh();
     drawing_.start(kDrawingMs);
+}
+
+void MainWindow::hideEvent(QHideEvent* event) {
+    drawing_.stop();
+    QWidget::hideEvent(event);
 }
 
 }  // namespace quorrin

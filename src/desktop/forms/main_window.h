@@ -33,15 +33,18 @@ class MainWindow : public QWidget {
     void refresh();
     FoldOut& settings() { return setting_->panel(); }
     FoldOut& engineering() { return sensor_->panel(); }
+    // Asks for the glances ten times a second.
+    bool drawing() const { return drawing_.isActive(); }
 
   protected:
     void resizeEvent(QResizeEvent*) override;
     void showEvent(QShowEvent*) override;
+    void hideEvent(QHideEvent*) override;
+    bool focusNextPrevChild(bool next) override;
 
   private:
     QWidget* header(Placing& place);
     QWidget* camera(Placing& place);
-    QWidget* plan(Placing& place);
     QMenu* menu();
     void placePanels();
 

@@ -8,12 +8,6 @@
 
 namespace quorrin {
 
-namespace {
-
-constexpr int kViewsHeight = 380;  // logical pixels
-
-}  // namespace
-
 SensorPanel::SensorPanel(Placing& place, Frame& frame, CommandButton& closeKey, const OperatorActs& acts,
                          QWidget* views, QWidget* over)
     : frame_(frame) {
@@ -39,7 +33,6 @@ void SensorPanel::close() {
 
 void SensorPanel::follow() {
     panel_->setVisible(opened_ || frame_.visible());
-    if (opened_) panel_->raise();
 }
 
 QWidget* SensorPanel::contents(Placing& place, QWidget* views) {
@@ -48,7 +41,6 @@ QWidget* SensorPanel::contents(Placing& place, QWidget* views) {
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(currentTheme().gap);
     if (views != nullptr) {
-        views->setMinimumHeight(kViewsHeight);
         QVBoxLayout* const live = column({views});
         rows->addWidget(group("liveViews", live), 1);
     }

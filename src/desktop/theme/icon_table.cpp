@@ -121,6 +121,8 @@ QString iconWords(IconName name) {
             return "M 3 6 L 9 3.5 L 15 6 L 21 3.5 L 21 18 L 15 20.5 L 9 18 L 3 20.5 Z;M 9 3.5 L 9 18;M 15 6 "
                    "L 15 "
                    "20.5";
+        case IconName::floorPlan:
+            return "R 3 4 18 16 1;M 10 4 L 10 8;M 10 11.5 L 10 20;M 10 13 L 14 13;M 17.5 13 L 21 13";
         case IconName::speech:
             return "M 4 4 L 20 4 L 20 16 L 11 16 L 6.5 20.5 L 6.5 16 L 4 16 Z;M 8 8.5 L 16 8.5;M 8 12 L 13 "
                    "12";

@@ -63,6 +63,7 @@ enum class IconName {
     menu,
     close,
     map,
+    floorPlan,  // seen from above
     speech,
     tick,
     warning,

@@ -25,11 +25,17 @@ Group::Group(const QString& name, const QString& title, QWidget* parent) : QWidg
     QFont bold = label->font();
     bold.setWeight(QFont::DemiBold);
     label->setFont(bold);
-    column->addWidget(label, 0);
+    titleLine_ = new QHBoxLayout;
+    titleLine_->addWidget(label, 1);
+    column->addLayout(titleLine_);
 }
 
 void Group::setContents(QLayout* contents) {
     static_cast<QVBoxLayout*>(layout())->addLayout(contents, 1);
+}
+
+void Group::putBesideTitle(QWidget* widget) {
+    titleLine_->addWidget(widget);
 }
 
 void Group::paintEvent(QPaintEvent*) {

@@ -3,7 +3,7 @@
 // Its object name is the group's, "fra(13)". It draws only itself; the contents are the caller's layout.
 #pragma once
 
-#include <QLayout>
+#include <QHBoxLayout>
 #include <QString>
 #include <QWidget>
 
@@ -16,9 +16,14 @@ class Group : public QWidget {
 
     // Takes the layout as the contents, below the title.
     void setContents(QLayout* contents);
+    // A small thing at the right-hand end of the title's line; not for a group without a title.
+    void putBesideTitle(QWidget* widget);
 
   protected:
     void paintEvent(QPaintEvent*) override;
+
+  private:
+    QHBoxLayout* titleLine_ = nullptr;
 };
 
 }  // namespace quorrin

@@ -1,5 +1,5 @@
-// The floor plan with real widgets: what the operator does to it with mouse, wheel and keys.
-#include "desktop/widgets/map_view.h"
+// The group of the floor plan with real widgets: what the operator does to it with mouse, wheel and keys.
+#include "desktop/forms/plan_group.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,7 @@ struct PlanForm : Form, MapControls {
     PlanForm() : Form("frmGUI"), MapControls(static_cast<Form&>(*this)) {}
 };
 
-struct MapViewTest : testing::Test {
+struct PlanGroup : testing::Test {
     TempFolder folder;
     PosixFiles files;
     VirtualClock clock;
@@ -34,7 +34,8 @@ struct MapViewTest : testing::Test {
     PlanForm form;
     QWidget window;
     ControlFactory controls{acts, form};
-    MapView* view = nullptr;
+    Placing place{controls, form, acts};
+    Group* group = nullptr;
     MapOverview* overview = nullptr;
 
     void SetUp() override {
@@ -43,10 +44,10 @@ struct MapViewTest : testing::Test {
         bindFloorPlan(form);
         loadFloorPlan(form, folder.path(), files);
         form.show();
-        view = new MapView(controls, form, acts, &window);
+        group = planGroup(place, form);
         overview = new MapOverview(controls, form, &window);
         auto* const column = new QVBoxLayout(&window);
-        column->addWidget(view, 1);
+        column->addWidget(group, 1);
         column->addWidget(overview);
         window.resize(420, 560);
         window.show();
@@ -85,32 +86,33 @@ struct MapViewTest : testing::Test {
     }
 };
 
-TEST_F(MapViewTest, TheGroupHasItsTitleAndEveryWidgetItsControlsName) {
-    EXPECT_EQ(view->title().toStdString(), "Whole Layout Picture");
-    for (const char* name : {"fraMapDisplay", "Frame1", "picRobotMap", "imgThumb", "HScroll1", "VScroll1"})
+TEST_F(PlanGroup, TheGroupHasItsTitleAndEveryWidgetItsControlsName) {
+    EXPECT_EQ(window.findChild<ShadowLabel*>("fraMapDisplay.title")->caption(), "Whole Layout Picture");
+    for (const char* name :
+         {"fraMapDisplay", "Frame1", "picRobotMap", "imgThumb", "HScroll1", "VScroll1", "RoomPic"})
         EXPECT_NE(window.findChild<QWidget*>(name), nullptr) << name;
 }
 
-TEST_F(MapViewTest, TheTravelIsThePlanLessTheRealViewport) {
+TEST_F(PlanGroup, TheTravelIsThePlanLessTheRealViewport) {
     EXPECT_EQ(form.HScroll1.maximum(), (kPlanWidth - viewport().width()) * kTwipsPerPixel);
     EXPECT_EQ(form.VScroll1.maximum(), (kPlanHeight - viewport().height()) * kTwipsPerPixel);
     EXPECT_EQ(bar("HScroll1").maximum(), form.HScroll1.maximum());
     EXPECT_EQ(bar("VScroll1").maximum(), form.VScroll1.maximum());
 }
 
-TEST_F(MapViewTest, TheFormKnowsWhereViewportAndGroupAre) {
+TEST_F(PlanGroup, TheFormKnowsWhereViewportAndGroupAre) {
     EXPECT_EQ(form.Frame1.area(), twips(QRect(viewport().mapTo(&window, QPoint(0, 0)), viewport().size())));
-    EXPECT_EQ(form.fraMapDisplay.area(), twips(QRect(view->mapTo(&window, QPoint(0, 0)), view->size())));
+    EXPECT_EQ(form.fraMapDisplay.area(), twips(QRect(group->mapTo(&window, QPoint(0, 0)), group->size())));
 }
 
-TEST_F(MapViewTest, ALargerWindowLeavesLessTravel) {
+TEST_F(PlanGroup, ALargerWindowLeavesLessTravel) {
     const int before = form.HScroll1.maximum();
     window.resize(520, 560);
     settle();
     EXPECT_EQ(form.HScroll1.maximum(), before - 100 * kTwipsPerPixel);
 }
 
-TEST_F(MapViewTest, AVeryLargeWindowStillLeavesTravelInBothDirections) {
+TEST_F(PlanGroup, AVeryLargeWindowStillLeavesTravelInBothDirections) {
     window.resize(1600, 1200);
     settle();
     EXPECT_GT(form.HScroll1.maximum(), form.HScroll1.minimum());
@@ -118,7 +120,7 @@ TEST_F(MapViewTest, AVeryLargeWindowStillLeavesTravelInBothDirections) {
     EXPECT_LT(viewport().width(), kPlanWidth);
 }
 
-TEST_F(MapViewTest, TheScrollBarMovesThePlan) {
+TEST_F(PlanGroup, TheScrollBarMovesThePlan) {
     bar("HScroll1").setValue(750);
     settle();
     EXPECT_EQ(form.HScroll1.value(), 750);
@@ -129,7 +131,7 @@ TEST_F(MapViewTest, TheScrollBarMovesThePlan) {
     EXPECT_EQ(plan().y(), -100);
 }
 
-TEST_F(MapViewTest, ADragMovesThePlanWithTheMouse) {
+TEST_F(PlanGroup, ADragMovesThePlanWithTheMouse) {
     drag({200, 150}, {160, 130});
     EXPECT_EQ(form.HScroll1.value(), 1 + 40 * kTwipsPerPixel);
     EXPECT_EQ(form.VScroll1.value(), 1 + 20 * kTwipsPerPixel);
@@ -137,13 +139,13 @@ TEST_F(MapViewTest, ADragMovesThePlanWithTheMouse) {
     EXPECT_EQ(bar("HScroll1").value(), form.HScroll1.value());
 }
 
-TEST_F(MapViewTest, ADragStopsAtThePlansEdge) {
+TEST_F(PlanGroup, ADragStopsAtThePlansEdge) {
     drag({10, 10}, {200, 150});
     EXPECT_EQ(form.HScroll1.value(), 1);
     EXPECT_EQ(form.VScroll1.value(), 1);
 }
 
-TEST_F(MapViewTest, AfterTheReleaseTheMouseMovesNothing) {
+TEST_F(PlanGroup, AfterTheReleaseTheMouseMovesNothing) {
     drag({200, 150}, {160, 150});
     const int value = form.HScroll1.value();
     QTest::mouseMove(&viewport(), QPoint(20, 20));
@@ -151,7 +153,7 @@ TEST_F(MapViewTest, AfterTheReleaseTheMouseMovesNothing) {
     EXPECT_EQ(form.HScroll1.value(), value);
 }
 
-TEST_F(MapViewTest, TheWheelMovesThePlanUpAndDownAndWithShiftSideways) {
+TEST_F(PlanGroup, TheWheelMovesThePlanUpAndDownAndWithShiftSideways) {
     wheel({0, -120});
     EXPECT_EQ(form.VScroll1.value(), 301);
     wheel({0, -120}, Qt::ShiftModifier);
@@ -161,7 +163,7 @@ TEST_F(MapViewTest, TheWheelMovesThePlanUpAndDownAndWithShiftSideways) {
     EXPECT_EQ(form.VScroll1.value(), 1);
 }
 
-TEST_F(MapViewTest, TheArrowKeysMoveThePlan) {
+TEST_F(PlanGroup, TheArrowKeysMoveThePlan) {
     viewport().setFocus();
     QTest::keyClick(&viewport(), Qt::Key_Right);
     QTest::keyClick(&viewport(), Qt::Key_PageDown);
@@ -170,7 +172,7 @@ TEST_F(MapViewTest, TheArrowKeysMoveThePlan) {
     EXPECT_EQ(form.VScroll1.value(), 1501);
 }
 
-TEST_F(MapViewTest, TheFocusedPlanWearsARing) {
+TEST_F(PlanGroup, TheFocusedPlanWearsARing) {
     const auto ring = [this] {
         QWidget& scroller = *viewport().parentWidget();
         return scroller.grab().toImage().pixelColor(viewport().pos() + QPoint(50, -1));
@@ -186,7 +188,7 @@ TEST_F(MapViewTest, TheFocusedPlanWearsARing) {
     EXPECT_NE(ring(), currentTheme().focus);
 }
 
-TEST_F(MapViewTest, EverythingComesThroughTheOperatorsDoor) {
+TEST_F(PlanGroup, EverythingComesThroughTheOperatorsDoor) {
     std::vector<std::string> deeds;
     form.onOperatorAct = [&](const OperatorAct& act) { deeds.push_back(act.control->name()); };
     bar("HScroll1").setValue(300);
@@ -197,14 +199,14 @@ TEST_F(MapViewTest, EverythingComesThroughTheOperatorsDoor) {
     EXPECT_EQ(deeds, (std::vector<std::string>{"HScroll1", "VScroll1", "HScroll1", "VScroll1"}));
 }
 
-TEST_F(MapViewTest, AFormThatIsNotShownKeepsItsPlan) {
+TEST_F(PlanGroup, AFormThatIsNotShownKeepsItsPlan) {
     form.hide();
     drag({200, 150}, {160, 130});
     EXPECT_EQ(form.HScroll1.value(), 1);
     EXPECT_EQ(plan().pos(), QPoint(0, 0));
 }
 
-TEST_F(MapViewTest, TheProgramsOwnMoveIsShown) {
+TEST_F(PlanGroup, TheProgramsOwnMoveIsShown) {
     form.HScroll1.setValue(1500);
     form.VScroll1.setValue(600);
     settle();
@@ -212,7 +214,7 @@ TEST_F(MapViewTest, TheProgramsOwnMoveIsShown) {
     EXPECT_EQ(bar("HScroll1").value(), 1500);
 }
 
-TEST_F(MapViewTest, TheOverviewFramesThePartThatIsSeen) {
+TEST_F(PlanGroup, TheOverviewFramesThePartThatIsSeen) {
     const QRect whole = overview->picturePlace();
     ASSERT_EQ(whole.size(), QSize(168, 155));
     EXPECT_EQ(overview->seenFrame().topLeft(), whole.topLeft());
@@ -224,11 +226,11 @@ TEST_F(MapViewTest, TheOverviewFramesThePartThatIsSeen) {
     EXPECT_NEAR(overview->seenFrame().bottom(), whole.bottom(), 1);
 }
 
-TEST_F(MapViewTest, TheOverviewTellsTheFormWhereItStands) {
+TEST_F(PlanGroup, TheOverviewTellsTheFormWhereItStands) {
     EXPECT_EQ(form.imgThumb.area(), twips(overview->picturePlace().translated(overview->pos())));
 }
 
-TEST_F(MapViewTest, ThePlanIsSeenThroughTheViewport) {
+TEST_F(PlanGroup, ThePlanIsSeenThroughTheViewport) {
     const QImage seen = viewport().grab().toImage();
     EXPECT_EQ(seen.pixelColor(0, 0), QColor(Qt::red));
     EXPECT_EQ(seen.pixelColor(50, 50), QColor(Qt::lightGray));
@@ -237,7 +239,7 @@ TEST_F(MapViewTest, ThePlanIsSeenThroughTheViewport) {
     EXPECT_EQ(viewport().grab().toImage().pixelColor(0, 0), QColor(Qt::lightGray));
 }
 
-TEST_F(MapViewTest, WhatIsDrawnOnThePlanIsSeenAndScrollsWithIt) {
+TEST_F(PlanGroup, WhatIsDrawnOnThePlanIsSeenAndScrollsWithIt) {
     form.picRobotMap.drawCircle({1500, 1500, 450, rgb(0, 0, 255)});
     const auto onTheCircle = [this](int x, int y) {
         return viewport().grab().toImage().pixelColor(x, y).blue() -
@@ -251,7 +253,21 @@ TEST_F(MapViewTest, WhatIsDrawnOnThePlanIsSeenAndScrollsWithIt) {
     EXPECT_EQ(onTheCircle(80, 100) + onTheCircle(79, 100), 0);
 }
 
-TEST_F(MapViewTest, ARefreshReadsNoFileAgain) {
+TEST_F(PlanGroup, HoldsThePlanThatIsBuiltInAndNeverChanges) {
+    const auto builtIn = [this] { return named("RoomPic").grab().toImage(); };
+    const QImage before = builtIn();
+    QImage empty = before;
+    empty.fill(before.pixelColor(0, 0));
+    EXPECT_NE(before, empty) << "nothing is drawn";
+    draw("office.bmp", kPlanWidth / 2, kPlanHeight / 2);
+    loadFloorPlan(form, folder.path(), files);
+    form.picRobotMap.drawCircle({1500, 1500, 450, rgb(255, 0, 0)});
+    settle();
+    EXPECT_EQ(builtIn(), before);
+    EXPECT_TRUE(form.RoomPic.drawing().empty());
+}
+
+TEST_F(PlanGroup, ARefreshReadsNoFileAgain) {
     draw("office.bmp", kPlanWidth, kPlanHeight);
     QImage other(kPlanWidth, kPlanHeight, QImage::Format_RGB32);
     other.fill(Qt::green);
