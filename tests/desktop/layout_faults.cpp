@@ -1,16 +1,12 @@
 #include "desktop/layout_faults.h"
 
-#include <QAbstractButton>
 #include <QAbstractScrollArea>
-#include <QComboBox>
-#include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <algorithm>
 
-#include "desktop/widgets/command.h"
 #include "desktop/widgets/glance_tile.h"
-#include "desktop/widgets/lamp.h"
-#include "desktop/widgets/shadow_label.h"
 
 namespace quorrin {
 
@@ -25,16 +21,6 @@ std::string nameOf(const QWidget& widget) {
 
 std::string sizeText(QSize size) {
     return std::to_string(size.width()) + "x" + std::to_string(size.height());
-}
-
-// Shows a text of its own, and needs what it asks for.
-bool writes(const QWidget& widget) {
-    return dynamic_cast<const QLabel*>(&widget) != nullptr ||
-           dynamic_cast<const QAbstractButton*>(&widget) != nullptr ||
-           dynamic_cast<const ShadowLabel*>(&widget) != nullptr ||
-           dynamic_cast<const Command*>(&widget) != nullptr ||
-           dynamic_cast<const Lamp*>(&widget) != nullptr ||
-           dynamic_cast<const QComboBox*>(&widget) != nullptr;
 }
 
 class Walk {
@@ -62,17 +48,21 @@ class Walk {
     std::vector<std::string> faults;
 
   private:
+    // What a widget asks for at least, be it by its texts or by what it draws itself.
+    void needs(const QWidget& widget) {
+        QSize needed = widget.minimumSizeHint();
+        // A layout asks for the height that it likes best, and can do with less.
+        if (widget.layout() == nullptr && widget.hasHeightForWidth())
+            needed.setHeight(std::max(needed.height(), widget.heightForWidth(widget.width())));
+        if (needed.width() > widget.width() || needed.height() > widget.height())
+            faults.push_back(nameOf(widget) + " is " + sizeText(widget.size()) + " and needs " +
+                             sizeText(needed));
+    }
+
     void look(const QWidget& widget) {
-        if (writes(widget)) {
-            const QSize needed = widget.minimumSizeHint().expandedTo(QSize(1, 1));
-            if (needed.width() > widget.width() || needed.height() > widget.height())
-                faults.push_back(nameOf(widget) + " is " + sizeText(widget.size()) + " and needs " +
-                                 sizeText(needed));
-            return;
-        }
         if (const auto* edit = qobject_cast<const QLineEdit*>(&widget)) {
-            constexpr int kEdges = 12;
-            const int text = edit->fontMetrics().horizontalAdvance(edit->text()) + kEdges;
+            const int edges = edit->hasFrame() ? 12 : 4;
+            const int text = edit->fontMetrics().horizontalAdvance(edit->text()) + edges;
             if (text > edit->width() || edit->fontMetrics().height() > edit->height())
                 faults.push_back(nameOf(widget) + " is too small for " + edit->text().toStdString());
             return;
@@ -81,6 +71,7 @@ class Walk {
             if (!tile->whole()) faults.push_back(nameOf(widget) + " does not show its whole text");
             return;
         }
+        needs(widget);
         // The insides of lists and the like are the toolkit's.
         const bool list = qobject_cast<const QAbstractScrollArea*>(&widget) != nullptr &&
                           qobject_cast<const QScrollArea*>(&widget) == nullptr;

@@ -1,6 +1,6 @@
 // What is wrong with how a window's widgets lie: each fault as a line that names the widget.
 //
-// A widget that does not lie inside its parent, one that has less room than its text needs, and two
+// A widget that does not lie inside its parent, one that has less room than it asks for, and two
 // neighbours that overlap. What lies in a scroll area may be larger than the area. Widgets that others are
 // meant to be covered by are named by the caller.
 #pragma once

@@ -5,6 +5,8 @@
 
 #include <QLabel>
 
+#include "desktop/views/grid_legend.h"
+#include "desktop/views/strip_chart_view.h"
 #include "desktop/widgets/glance_tile.h"
 
 namespace quorrin {
@@ -45,6 +47,25 @@ TEST(LayoutFaults, FindATextThatIsWiderThanItsWidget) {
 TEST(LayoutFaults, FindNeighboursThatOverlap) {
     Sample sample;
     sample.second.move(20, 20);
+    EXPECT_THAT(layoutFaults(sample.window, {}), SizeIs(1));
+}
+
+TEST(LayoutFaults, FindAChartThatIsTooLowForItsReadings) {
+    Sample sample;
+    const StripChart data(ChartKind::infraredRanges);
+    StripChartView chart(data, &sample.window);
+    chart.setGeometry(10, 100, 380, 40);
+    chart.show();
+    EXPECT_THAT(layoutFaults(sample.window, {}), SizeIs(1));
+}
+
+TEST(LayoutFaults, FindALegendThatIsTooLowForItsWidth) {
+    Sample sample;
+    GridLegend legend(&sample.window);
+    const int width = legend.minimumSizeHint().width();
+    sample.window.resize(width + 300, 600);
+    legend.setGeometry(200, 0, width, legend.heightForWidth(width) - 1);
+    legend.show();
     EXPECT_THAT(layoutFaults(sample.window, {}), SizeIs(1));
 }
 

@@ -1,40 +1,50 @@
-// Nothing of the dashboard is cut off, elided or covered, on the screens that operators have. What a screen's
-// scale leaves of it are logical pixels: 1920x1080 at 150 % are 1280x720, 3840x2160 at 200 % are 1920x1080.
+// Nothing of the dashboard is cut off, elided or covered, on the screens that operators have.
 #include <gmock/gmock.h>
 
+#include <QScrollBar>
 #include <tuple>
 
 #include "desktop/dashboard_bench.h"
 #include "desktop/layout_faults.h"
+#include "desktop/screens.h"
+#include "desktop/views/live_views.h"
 
 namespace quorrin {
 namespace {
 
 using testing::IsEmpty;
 
-constexpr int kTitleBar = 32;  // logical pixels that a window manager takes away
-constexpr double kThirdLarger = 4.0 / 3;
-
-struct Screen {
-    int width;
-    int height;
-};
-
 class Layouts : public DashboardBench, public testing::WithParamInterface<std::tuple<Screen, double>> {
   protected:
+    static bool hasLargeFont() { return std::get<double>(GetParam()) > 1; }
+    static QSize size() { return std::get<Screen>(GetParam()).logical() - QSize(0, kTitleBar); }
     void openOnScreen() {
-        const auto& [screen, factor] = GetParam();
-        look.wear(lightTheme(), factor);
-        open(screen.width, screen.height - kTitleBar);
+        look.wear(lightTheme(), std::get<double>(GetParam()));
+        open(size().width(), size().height(), new LiveViews(liveSource(bench.station, bench.clock)));
+    }
+    void openSettings() {
+        click("cmdExpandSetting");
+        ASSERT_TRUE(window->settings().isVisible());
+    }
+    void openEngineering() {
+        press(Qt::Key_F9);
+        ASSERT_TRUE(window->engineering().isVisible());
     }
     void expectNoFaults(const std::string& what) {
         window->refresh();
         settle();
-        const auto& [screen, factor] = GetParam();
-        EXPECT_EQ(window->size(), QSize(screen.width, screen.height - kTitleBar)) << what;
+        EXPECT_EQ(window->size(), size()) << what;
         EXPECT_THAT(layoutFaults(*window, {"fraSetting", "fraSensor"}), IsEmpty()) << what;
     }
+    static void expectScrollsDownwardsAtMost(const FoldOut& panel) {
+        EXPECT_EQ(panel.area().horizontalScrollBar()->maximum(), 0);
+    }
 };
+
+TEST_P(Layouts, AreDrawnAtTheScaleOfTheScreen) {
+    openOnScreen();
+    EXPECT_EQ(window->devicePixelRatioF() * 100, std::get<Screen>(GetParam()).percent);
+}
 
 TEST_P(Layouts, ShowEverythingWholeAtStart) {
     openOnScreen();
@@ -43,16 +53,40 @@ TEST_P(Layouts, ShowEverythingWholeAtStart) {
 
 TEST_P(Layouts, ShowTheSettingsWhole) {
     openOnScreen();
-    click("cmdExpandSetting");
-    ASSERT_TRUE(window->settings().isVisible());
+    openSettings();
     expectNoFaults("settings");
+    expectScrollsDownwardsAtMost(window->settings());
+}
+
+// The engineering view scrolls everywhere: it is more than any of the screens holds.
+TEST_P(Layouts, ShowTheSettingsWithoutScrollingWhereTheScreenHoldsThem) {
+    openOnScreen();
+    openSettings();
+    const bool holds = window->settings().height() >= window->settings().wholeSize().height();
+    const bool must = size().height() >= 1000 || (size().height() >= 768 && !hasLargeFont());
+    EXPECT_TRUE(holds || !must);
+    EXPECT_EQ(window->settings().area().verticalScrollBar()->maximum() == 0, holds);
 }
 
 TEST_P(Layouts, ShowTheEngineeringViewWhole) {
     openOnScreen();
-    press(Qt::Key_F9);
-    ASSERT_TRUE(window->engineering().isVisible());
+    openEngineering();
     expectNoFaults("engineering view");
+    expectScrollsDownwardsAtMost(window->engineering());
+}
+
+TEST_P(Layouts, ShowTheEngineeringViewWholeOverTheSettings) {
+    openOnScreen();
+    openSettings();
+    openEngineering();
+    expectNoFaults("both");
+}
+
+TEST_P(Layouts, ShowTheSettingsWholeOverTheEngineeringView) {
+    openOnScreen();
+    openEngineering();
+    openSettings();
+    expectNoFaults("both");
 }
 
 TEST_P(Layouts, HoldTheLongestTextsOfTheStrip) {
@@ -65,6 +99,7 @@ TEST_P(Layouts, HoldTheLongestTextsOfTheStrip) {
     values.tiSilentTicks = 155;
     values.motSilentTicks = 155;
     values.battery1Volts = values.battery2Volts = 11.86;
+    bench.gui.cmdChEn.setPicture(1);
     bench.gui.shpBatteryStatus(0).setFill(255);
     bench.gui.shpBatteryStatus(1).setFill(8454016);
     values.encoderDataValid = true;
@@ -89,13 +124,11 @@ TEST_P(Layouts, HoldTheTextsOfARecovery) {
 
 std::string screenName(const testing::TestParamInfo<std::tuple<Screen, double>>& tested) {
     const auto& [screen, factor] = tested.param;
-    return std::to_string(screen.width) + "x" + std::to_string(screen.height) +
-           (factor > 1 ? "LargeFont" : "");
+    return screen.name() + fontName(factor);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, Layouts,
-                         testing::Combine(testing::Values(Screen{1280, 800}, Screen{1280, 720},
-                                                          Screen{1920, 1080}),
+                         testing::Combine(testing::ValuesIn(screensOfThisScale()),
                                           testing::Values(1.0, kThirdLarger)),
                          screenName);
 

@@ -6,6 +6,7 @@
 #include "console/control_words.h"
 #include "console/menu_words.h"
 #include "desktop/forms/control_panel_window.h"
+#include "desktop/forms/placing.h"
 #include "desktop/theme/theme.h"
 
 namespace quorrin {
@@ -62,12 +63,6 @@ QVBoxLayout* under(QWidget* above, QWidget* below) {
     return column;
 }
 
-QGridLayout* grid() {
-    auto* const made = new QGridLayout;
-    made->setSpacing(currentTheme().gap);
-    return made;
-}
-
 }  // namespace
 
 void ControlPanelWindow::layOut() {
@@ -99,7 +94,7 @@ QWidget* ControlPanelWindow::heading() {
     row->addWidget(title, 1);
     QWidget* const close = key("cmdClose", IconName::close);
     constexpr int kSmallSide = 36;
-    close->setFixedSize(kSmallSide, kSmallSide);
+    close->setFixedSize(close->sizeHint().expandedTo(QSize(kSmallSide, kSmallSide)));
     row->addWidget(close);
     auto* const heading = new QWidget;
     heading->setLayout(row);
@@ -174,13 +169,13 @@ QWidget* ControlPanelWindow::key(const std::string& name, IconName picture) {
     QWidget* const button = controls_(name);
     button->setFocusPolicy(Qt::TabFocus);
     body_->takeKeysOf(*button);
+    if (picture != IconName::count) setKeyPicture(*button, picture);
     const auto* control = dynamic_cast<const CommandButton*>(form_.find(name));
     if (control != nullptr && control->caption().empty()) {
-        button->setFixedSize(kKeySide, kKeySide);
+        button->setFixedSize(button->sizeHint().expandedTo(QSize(kKeySide, kKeySide)));
     } else {
         button->setMinimumHeight(kKeySide);
     }
-    if (picture != IconName::count) icons_.emplace_back(button, picture);
     return button;
 }
 

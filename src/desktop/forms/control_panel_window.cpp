@@ -1,6 +1,5 @@
 #include "desktop/forms/control_panel_window.h"
 
-#include <QAbstractButton>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,8 +8,6 @@
 
 #include "console/menu_words.h"
 #include "desktop/binding/window_system.h"
-#include "desktop/theme/theme.h"
-#include "desktop/widgets/command.h"
 
 namespace quorrin {
 
@@ -25,7 +22,6 @@ ControlPanelWindow::ControlPanelWindow(frmControlPanel& form, WindowDrag& drag, 
     body_->setParent(this);
     controls_.dress(*body_, form.Picture1);
     layOut();
-    applyTheme();
     body_->setFocus();
 
     // The form and its background are dragged alike; what the background does not take comes to the form.
@@ -52,19 +48,6 @@ void ControlPanelWindow::applyStyle() {
 bool ControlPanelWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress && link_ != nullptr) link_->pressed();
     return QWidget::eventFilter(watched, event);
-}
-
-void ControlPanelWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::PaletteChange) applyTheme();
-    QWidget::changeEvent(event);
-}
-
-void ControlPanelWindow::applyTheme() {
-    for (const auto& [widget, picture] : icons_) {
-        const QIcon drawn = icon(picture, currentTheme());
-        if (auto* button = dynamic_cast<QAbstractButton*>(widget)) button->setIcon(drawn);
-        if (auto* command = dynamic_cast<Command*>(widget)) command->setIcon(drawn);
-    }
 }
 
 }  // namespace quorrin

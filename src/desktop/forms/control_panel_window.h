@@ -35,11 +35,9 @@ class ControlPanelWindow : public QWidget {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void changeEvent(QEvent* event) override;
 
   private:
     void applyStyle();
-    void applyTheme();
     void layOut();
     QWidget* heading();
     QWidget* driving();
@@ -51,7 +49,6 @@ class ControlPanelWindow : public QWidget {
 
     frmControlPanel& form_;
     ControlFactory controls_;
-    std::vector<std::pair<QWidget*, IconName>> icons_;
     PanelBody* body_;
     BodyDrag* bodyDrag_ = nullptr;
     Listening styling_;  // before the link, which shows the window

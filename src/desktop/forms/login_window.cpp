@@ -56,7 +56,9 @@ QWidget* LoginWindow::addressRow() {
             dot->setFocusPolicy(Qt::ClickFocus);
             dot->setAlignment(Qt::AlignCenter);
             dot->setStyleSheet(QStringLiteral("background: transparent; border: none; padding: 0;"));
-            dot->setFixedWidth(dot->fontMetrics().horizontalAdvance(QStringLiteral("..")));
+            // Two dots would fit, and the space that a box keeps beside its text.
+            constexpr int kBeside = 4;
+            dot->setFixedWidth(dot->fontMetrics().horizontalAdvance(QStringLiteral("..")) + kBeside);
             row->addWidget(dot);
         }
         auto* const field = static_cast<QLineEdit*>(controls_(form_.txt_ip(i).name()));
