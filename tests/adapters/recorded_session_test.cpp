@@ -1,5 +1,5 @@
-// A session of real gateways, a real clock and the simulated robot as a program: what the flight recorder
-// wrote of it replays to the same operations, byte for byte.
+// A session of real gateways, a real clock, a real client and the simulated robot as a program: what the
+// flight recorder wrote of it replays to the same operations, byte for byte.
 #include <gmock/gmock.h>
 
 #include "base/program_error.h"
@@ -7,13 +7,19 @@
 #include "platform/host/posix_files.h"
 #include "platform/host/posix_programs.h"
 #include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_sockets.h"
 #include "platform/qt/qt_streams.h"
-#include "replay/socket_printer.h"
+#include "remote/channels.h"
+#include "remote/frame_codec.h"
+#include "replay/scripted_wave.h"
 #include "robotlink/gateway_link.h"
 #include "session/flight_recorder.h"
 #include "session/recorded_link.h"
+#include "session/recorded_sockets.h"
+#include "support/plain_client.h"
 #include "support/printing_link.h"
 #include "support/printing_programs.h"
+#include "support/printing_sockets.h"
 #include "support/process.h"
 #include "support/replay_script.h"
 #include "support/temp_folder.h"
@@ -50,8 +56,10 @@ class RealRecordedSession : public testing::Test {
         PrintingPrograms programs(real, output);
         ScriptedBoxes inner;
         RecordedBoxes boxes(inner, recorder);
-        VirtualSockets sockets(time);
-        printSockets(sockets, output);
+        ScriptedWave wave(output);
+        QtSockets realSockets(time);
+        PrintingSockets printedSockets(realSockets, output);
+        RecordedSockets sockets(printedSockets, recorder);
         Station station(StationPorts{time,
                                      files,
                                      programs,
@@ -62,16 +70,34 @@ class RealRecordedSession : public testing::Test {
                                      [] { throw ProgramEnd{}; },
                                      {},
                                      nullptr,
-                                     &sockets});
+                                     &sockets,
+                                     &wave});
         for (Form* form : station.forms()) recorder.watchForm(*form, form == &station.gui);
         std::vector<std::unique_ptr<TimerMM>> hands;
-        const auto pressAt = [&](std::int64_t ms, CommandButton& button) {
-            hands.push_back(std::make_unique<TimerMM>(
-                clock, [&time, &button] { time.arrive([&button] { button.operatorClick(); }); }));
+        const auto at = [&](std::int64_t ms, std::function<void()> deed) {
+            hands.push_back(std::make_unique<TimerMM>(clock, std::move(deed)));
             hands.back()->setPeriodic(false);
             hands.back()->setInterval(ms);
             hands.back()->setEnabled(true);
         };
+        const auto pressAt = [&](std::int64_t ms, CommandButton& button) {
+            at(ms, [&time, &button] { time.arrive([&button] { button.operatorClick(); }); });
+        };
+        PlainClient command;
+        PlainClient sensor;
+        PlainClient video;
+        at(13'000, [&] { EXPECT_TRUE(command.connect(kCommandChannel.port)); });
+        at(14'500, [&] {
+            EXPECT_TRUE(sensor.connect(kSensorChannel.port));
+            EXPECT_TRUE(video.connect(kVideoChannel.port));
+        });
+        at(14'800, [&] { command.send(frameOf("PING") + frameOf("5200,6000,10000,2100,1900,3000,1,1")); });
+        at(15'000, [&] { command.send(frameOf("PING")); });
+        at(15'200, [&] { video.reset(); });
+        at(17'000, [&] { command.send(frameOf("Clos")); });
+        at(29'000, [&] { command.send(frameOf("RLIS")); });
+        at(30'000, [&] { sensor.hangUp(); });
+        at(30'300, [&] { command.hangUp(); });
         pressAt(18'000, station.gui.cmdChEn);
         pressAt(21'000, station.gui.cmdChEn);
         pressAt(31'000, station.gui.cmdExit);
@@ -109,7 +135,9 @@ TEST_F(RealRecordedSession, ReplaysToTheSameOperations) {
                   Process::Settings{folder.path()}, "robot.out");
     const std::string live = wanderAndPrint();
     EXPECT_THAT(live, HasSubstr("\"SetDriveVelocities\""));
-    EXPECT_THAT(live, HasSubstr("\"ended\": true"));
+    for (const char* asked : {"\"accept\": \"wskCommand\"", "\"wave\"", "\"send\": \"wskSensor\"",
+                              "\"shut\": \"wskVideo\"", "\"StartSoundCapture\"", "\"ended\": true"})
+        EXPECT_THAT(live, HasSubstr(asked));
 
     ScriptRunner runner;
     runner.files.put("/app/Quorrinsdk.ini", files.read(app + "/Quorrinsdk.ini").value_or(""));

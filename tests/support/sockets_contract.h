@@ -225,6 +225,25 @@ TYPED_TEST_P(SocketsContract, NothingOfAClosedElementIsToldAnyMore) {
     }
 }
 
+TYPED_TEST_P(SocketsContract, WhatWasUnderWayToAnElementThatAnotherHandlerClosesIsVoid) {
+    const int caller = this->connected();
+    const int other = this->connected(2);
+    this->element(2).onDataArrival = [this, caller] {
+        this->fixture.say(caller, "bytes");
+        this->fixture.hangUp(caller);
+        for (int i = 0; i < 20; ++i) {
+            this->fixture.clock().block(1);
+            this->fixture.clock().yield();
+        }
+        this->element().close();
+        this->log.emplace_back("closes it");
+    };
+    this->fixture.say(other, "x");
+    ASSERT_TRUE(this->logged("closes it"));
+    this->fixture.settle();
+    EXPECT_THAT(this->log, testing::ElementsAre("closes it"));
+}
+
 TYPED_TEST_P(SocketsContract, AnElementThatIsNotConnectedTakesNothing) {
     this->make(1);
     this->element().send("nobody");
@@ -438,8 +457,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     ACallIsTakenByOneElementOnly, BytesComeInOrderAndAheadOfTheClose, AReadGivesWhatIsAskedForAndTheRestWaits,
     AnElementWithoutADataHandlerThrowsItsBytesAwayAndStillHearsTheEnd, SentBytesArriveInOrder,
     AnOrderlyCloseIsTheCloseEventOnly, AResetIsTheErrorEventOnly, AClosedElementTellsItsCaller,
-    NothingOfAClosedElementIsToldAnyMore, AnElementThatIsNotConnectedTakesNothing,
-    ACallerThatTakesNothingIsHeldTheBoundAndThenIsAnError,
+    NothingOfAClosedElementIsToldAnyMore, WhatWasUnderWayToAnElementThatAnotherHandlerClosesIsVoid,
+    AnElementThatIsNotConnectedTakesNothing, ACallerThatTakesNothingIsHeldTheBoundAndThenIsAnError,
     AnErrorUnderWayIsForgottenByACloseAndByADestruction, AResetInsideAHandlerIsToldAfterIt,
     AResetInsideAnothersCloseOrErrorHandlerIsToldAfterIt, AnElementMayBeDestroyedInItsDataHandler,
     AnElementMayBeDestroyedInItsCloseAndErrorHandlers,
