@@ -40,7 +40,7 @@ int runStation(RealStation& real, Terminal& terminal) {
         {real.time, real.files, real.programs, boxes, real.recordedMyRobot, real.recordedRobotTI,
          real.host.folders, [] { throw ProgramEnd{}; },
          [](const std::string& address) { QDesktopServices::openUrl(QUrl(QString::fromStdString(address))); },
-         &real.recordedSticks, &real.recordedSockets});
+         &real.recordedSticks, &real.recordedSockets, &real.loudspeaker});
     StationWindows windows(station, OperatorActs(real.time));
     const auto complain = [&](const std::string& text) {
         terminal.line(text);

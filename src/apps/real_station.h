@@ -1,5 +1,5 @@
 // The real ports that a station stands on, for the mains of the two stations: folders, files, clock, links,
-// joysticks, programs. Composes, decides nothing.
+// joysticks, sockets, loudspeaker, programs. Composes, decides nothing.
 #pragma once
 
 #include <string>
@@ -16,6 +16,7 @@
 #include "platform/qt/qt_sockets.h"
 #include "platform/qt/qt_streams.h"
 #include "platform/qt/sdl_joysticks.h"
+#include "platform/qt/sdl_wave_player.h"
 #include "robotlink/gateway_link.h"
 #include "session/first_start.h"
 #include "session/flight_recorder.h"
@@ -46,6 +47,7 @@ struct RealStation {
     RecordedJoysticks recordedSticks{sticks, recorder};
     QtSockets sockets{time};
     RecordedSockets recordedSockets{sockets, recorder};
+    SdlWavePlayer loudspeaker;
     // Goes first at the end: it waits for the gateways that were asked to close.
     PosixPrograms programs{host.run};
 
