@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <memory>
 
+#include "desktop/theme/icons.h"
 #include "desktop/theme/theme.h"
 #include "desktop/widgets/button_skin.h"
 #include "desktop/widgets/command.h"
@@ -116,6 +117,20 @@ TEST_F(CommandLook, AnIconIsDrawnAndAnEmptyOneHidesItAgain) {
     EXPECT_GT(pixelsOf(pictureOf(button), Qt::red), 50);
     button.setIcon(QIcon());
     EXPECT_EQ(pictureOf(button), skin(ButtonState::normal, button.look()));
+}
+
+TEST_F(CommandLook, APictureOfTheProjectsOwnHasTheCaptionsColourOnEveryLook) {
+    button.setIcon(writingIcon(IconName::stop));
+    button.setIconSize({24, 24});
+    for (const LookKind kind :
+         {LookKind::plain, LookKind::accent, LookKind::danger, LookKind::quiet, LookKind::on}) {
+        button.setLookKind(kind);
+        for (const bool enabled : {true, false}) {
+            button.setEnabled(enabled);
+            EXPECT_GT(pixelsOf(pictureOf(button), button.captionColour()), 20)
+                << static_cast<int>(kind) << enabled;
+        }
+    }
 }
 
 TEST_F(CommandLook, APressShiftsTheFaceByOneUnit) {

@@ -37,7 +37,7 @@ void giveRoom(QWidget& widget, int characters) {
 }
 
 void setKeyPicture(QWidget& key, IconName picture) {
-    if (auto* command = dynamic_cast<Command*>(&key)) command->setIcon(themedIcon(picture));
+    if (auto* command = dynamic_cast<Command*>(&key)) command->setIcon(writingIcon(picture));
     if (auto* button = dynamic_cast<QAbstractButton*>(&key)) button->setIcon(themedIcon(picture));
 }
 

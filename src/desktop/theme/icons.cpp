@@ -25,28 +25,35 @@ const std::vector<IconPart>& partsOf(IconName name) {
     return all[static_cast<std::size_t>(name)];
 }
 
-// Without colours of its own it takes those of the theme at the time of drawing.
+// Without colours of its own it takes those of the theme at the time of drawing, or the painter's.
 class DrawnIcon : public QIconEngine {
   public:
     DrawnIcon(IconName name, QColor colour, QColor disabled)
         : name_(name), colour_(colour), disabled_(disabled) {}
+    DrawnIcon(IconName name, bool asWriting) : name_(name), asWriting_(asWriting) {}
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        const bool disabled = mode == QIcon::Disabled;
-        QColor colour = disabled ? disabled_ : colour_;
-        if (!colour.isValid()) colour = disabled ? currentTheme().disabled : currentTheme().buttonText;
-        drawIcon(*painter, rect, name_, colour);
+        drawIcon(*painter, rect, name_, asWriting_ ? painter->pen().color() : ink(mode));
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         QPixmap picture(size);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
+        painter.setPen(ink(mode));
         paint(&painter, QRect(QPoint(0, 0), size), mode, state);
         return picture;
     }
     QIconEngine* clone() const override { return new DrawnIcon(*this); }
 
   private:
+    QColor ink(QIcon::Mode mode) const {
+        const bool disabled = mode == QIcon::Disabled;
+        const QColor own = disabled ? disabled_ : colour_;
+        if (own.isValid()) return own;
+        return disabled ? currentTheme().disabled : currentTheme().buttonText;
+    }
+
     IconName name_;
+    bool asWriting_ = false;
     QColor colour_;
     QColor disabled_;
 };
@@ -83,7 +90,11 @@ QIcon icon(IconName name, const Theme& theme) {
 }
 
 QIcon themedIcon(IconName name) {
-    return QIcon(new DrawnIcon(name, {}, {}));
+    return QIcon(new DrawnIcon(name, false));
+}
+
+QIcon writingIcon(IconName name) {
+    return QIcon(new DrawnIcon(name, true));
 }
 
 }  // namespace quorrin

@@ -80,6 +80,8 @@ void drawIcon(QPainter& painter, const QRectF& square, IconName name, const QCol
 QIcon icon(IconName name, const Theme& theme);
 // Follows the application's theme whenever it is drawn.
 QIcon themedIcon(IconName name);
+// In the colour of the painter's pen, for widgets that paint it beside writing of their own.
+QIcon writingIcon(IconName name);
 QIcon icon(IconName name, const QColor& colour, const QColor& disabled);
 
 }  // namespace quorrin

@@ -164,11 +164,12 @@ void Command::paintEvent(QPaintEvent*) {
 
 void Command::drawFace(QPainter& painter) const {
     const ButtonFace face = model_.face();
+    // Before the icon, which may be drawn in the colour of the writing.
+    painter.setPen(captionColour());
     if (model_.imgButtonVisible()) {
         icon_.paint(&painter, rectOf(face.imgButton), Qt::AlignCenter,
                     model_.properties().enabled ? QIcon::Normal : QIcon::Disabled);
     }
-    painter.setPen(captionColour());
     const QString text = fontMetrics().elidedText(caption(), Qt::ElideRight, face.lbl.width);
     painter.drawText(rectOf(face.lbl), Qt::AlignCenter | Qt::TextSingleLine | Qt::TextDontClip, text);
     if (hasFocus()) {
