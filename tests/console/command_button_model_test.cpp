@@ -122,6 +122,18 @@ TEST_F(CommandModel, AReleaseOutsideDoesNotLeaveTheHoverBehindNorTellASecondMous
     EXPECT_EQ(told, "up");
 }
 
+TEST_F(CommandModel, MovesOutsideOfAPressedButtonBringNoSecondMouseOut) {
+    button.mouseMove(kOver);
+    button.mouseDown(kLeft);
+    cursorInside = false;
+    clock.runFor(50);
+    button.mouseMove({MouseButton::none, 0, 500, 10});
+    told.clear();
+    button.mouseUp(kFarLeft);
+    clock.runFor(50);
+    EXPECT_EQ(told, "up");
+}
+
 TEST_F(CommandModel, TheLeftButtonPressesWithOneDrawing) {
     button.mouseDown(kLeft);
     EXPECT_EQ(button.state(), ButtonState::pressed);
