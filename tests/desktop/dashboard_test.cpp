@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <set>
 
 #include "desktop/dashboard_bench.h"
@@ -280,6 +281,49 @@ TEST_F(Dashboard, ClosesTheEngineeringViewByTheShortcutOfItsKey) {
     press(Qt::Key_F9);
     press(Qt::Key_F9, Qt::ShiftModifier);
     EXPECT_FALSE(window->engineering().isVisible());
+}
+
+TEST_F(Dashboard, DrawsThePictureOfAStopKeyInTheColourOfItsCaptionInBothLooks) {
+    open();
+    press(Qt::Key_F9);
+    auto& stop = find<Command>("cmdStop");
+    stop.setCaption("");
+    for (const Theme* theme : {&lightTheme(), &darkTheme()}) {
+        applyTheme(*qApp, *theme);
+        settle();
+        const QImage picture = pictureOf(stop);
+        int dots = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                dots += picture.pixelColor(x, y) == stop.captionColour() ? 1 : 0;
+        EXPECT_GT(dots, 20) << theme->dark;
+    }
+}
+
+TEST_F(Dashboard, ScrollsItsFoldOutsWhereTheRoomIsTooSmall) {
+    look.wear(lightTheme(), 4.0 / 3);
+    open(1000, 560);
+    click("cmdExpandSetting");
+    press(Qt::Key_F9);
+    for (FoldOut* panel : {&window->settings(), &window->engineering()}) {
+        ASSERT_TRUE(panel->isVisible());
+        // Lower than any window that shows them whole.
+        panel->resize(600, 300);
+        settle();
+        auto& area = *panel->findChild<QScrollArea*>();
+        EXPECT_GT(area.verticalScrollBar()->maximum(), 0);
+        int reached = 0;
+        for (QWidget* widget : area.widget()->findChildren<QWidget*>()) {
+            // The lists that drop down are the toolkit's.
+            if (widget->window() != window.get() || (widget->focusPolicy() & Qt::TabFocus) == 0) continue;
+            const QPoint middle = widget->mapTo(area.widget(), widget->rect().center());
+            area.ensureVisible(middle.x(), middle.y(), widget->width() / 2 + 1, widget->height() / 2 + 1);
+            const QRect seen(widget->mapTo(area.viewport(), QPoint(0, 0)), widget->size());
+            EXPECT_TRUE(area.viewport()->rect().contains(seen)) << widget->objectName().toStdString();
+            ++reached;
+        }
+        EXPECT_GT(reached, 10);
+    }
 }
 
 TEST_F(Dashboard, IsReachedByTabInReadingOrder) {
