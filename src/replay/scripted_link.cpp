@@ -113,7 +113,7 @@ void ScriptedLink::RequestImage() {
 
 void ScriptedLink::SaveFrameToFile(const std::string& path) {
     printText("SaveFrameToFile", shortened(path));
-    if (!bitmap_.empty()) files_.writeWhole(path, bitmap_);
+    if (!bitmap_.empty()) files_.writeVolatile(path, bitmap_);
 }
 
 void ScriptedLink::PlaySoundFile(const std::string& path) {

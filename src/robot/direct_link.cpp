@@ -142,7 +142,8 @@ class DirectLink::Multimedia : public DirectLink::Instance {
     }
     void SaveFrameToFile(const std::string& path) override {
         if (pictureMs_ >= 0)
-            owner_.files_.writeWhole(path, bitmapFile(takePicture(pictureMs_, owner_.robot_.site().light)));
+            owner_.files_.writeVolatile(path,
+                                        bitmapFile(takePicture(pictureMs_, owner_.robot_.site().light)));
     }
     void PlaySoundFile(const std::string& path) override {
         auto* it = robot();

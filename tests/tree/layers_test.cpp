@@ -28,6 +28,15 @@ TEST(Layers, AHigherRoomMayIncludeALowerOneAndNotTheOtherWayRound) {
     EXPECT_FALSE(mayInclude("platform/clock.h", "base/form.h"));
 }
 
+TEST(Layers, ImagingStandsAboveSoundAndBelowRemote) {
+    EXPECT_TRUE(isStationRoom("imaging"));
+    EXPECT_TRUE(mayInclude("imaging/dib_section.h", "platform/clipboard.h"));
+    EXPECT_TRUE(mayInclude("imaging/dib_section.h", "sound/wave_resource.h"));
+    EXPECT_FALSE(mayInclude("sound/wave_resource.h", "imaging/dib_section.h"));
+    EXPECT_TRUE(mayInclude("remote/channels.h", "imaging/dib_section.h"));
+    EXPECT_FALSE(mayInclude("imaging/dib_section.h", "remote/channels.h"));
+}
+
 TEST(Layers, TheStationIncludesNoLeafAndNoSiblingOfThePorts) {
     EXPECT_FALSE(mayInclude("session/station.h", "gateway/gateway.h"));
     EXPECT_FALSE(mayInclude("robotlink/gateway_link.h", "robot/body.h"));
