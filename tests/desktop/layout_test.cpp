@@ -63,7 +63,7 @@ TEST_P(Layouts, ShowTheSettingsWithoutScrollingWhereTheScreenHoldsThem) {
     openOnScreen();
     openSettings();
     const bool holds = window->settings().height() >= window->settings().wholeSize().height();
-    const bool must = size().height() >= 1000 || (size().height() >= 768 && !hasLargeFont());
+    const bool must = size().height() >= 1000 || !hasLargeFont();
     EXPECT_TRUE(holds || !must);
     EXPECT_EQ(window->settings().area().verticalScrollBar()->maximum() == 0, holds);
 }

@@ -9,7 +9,7 @@ namespace quorrin {
 
 namespace {
 
-constexpr int kSmallestReview = 90;  // logical pixels
+constexpr int kSmallestReview = 48;  // logical pixels; takes what room there is
 
 QVBoxLayout* stack() {
     auto* made = new QVBoxLayout;
@@ -62,11 +62,13 @@ Group* soundGroup(Placing& place) {
 
 Group* reviewGroup(Placing& place) {
     QVBoxLayout* const contents = stack();
-    contents->addWidget(place.caption("cobAvailDate"));
-    contents->addWidget(place.control("cobAvailDate", 10));
+    auto* const date = row({place.caption("cobAvailDate"), place.control("cobAvailDate", 10)});
+    date->setStretch(1, 1);
+    contents->addLayout(date);
     QWidget* const list = place.control("lstPlayVideo", 12);
     QWidget* const picture = place.picture("picPlayVideo", kSmallestReview, IconName::play);
     list->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
+    list->setMaximumWidth(list->minimumWidth());
     auto* pictures = row({list, picture});
     pictures->setStretch(1, 1);
     contents->addLayout(pictures, 1);
@@ -80,8 +82,7 @@ Group* reviewGroup(Placing& place) {
 
 Group* captureGroup(Placing& place) {
     QVBoxLayout* const contents = stack();
-    contents->addWidget(place.choice("optFramesPerSec(0)"));
-    contents->addWidget(place.choice("optFramesPerSec(1)"));
+    contents->addLayout(row({place.choice("optFramesPerSec(0)"), place.choice("optFramesPerSec(1)")}));
     auto* days =
         row({place.caption("cobStoreDay"), place.control("cobStoreDay", 4), place.suffix("cobStoreDay")});
     days->addStretch(1);
@@ -121,8 +122,9 @@ Group* receivedGroup(Placing& place) {
     contents->addLayout(place.table({"txtCommandCount", "txtSteeringlevel", "txtGaslevel", "txtBrakelevel",
                                      "txtHeadLR", "txtHeadUD", "txtMouthUD"},
                                     1, 6));
-    contents->addWidget(place.caption("txtIncomeTTS"));
-    contents->addWidget(place.control("txtIncomeTTS", 14));
+    auto* const speech = row({place.caption("txtIncomeTTS"), place.control("txtIncomeTTS", 8)});
+    speech->setStretch(1, 1);
+    contents->addLayout(speech);
     contents->addWidget(place.key("cmdTTS", IconName::speech));
     return group("fra(0)", contents);
 }

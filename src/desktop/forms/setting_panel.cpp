@@ -22,14 +22,13 @@ QWidget* SettingPanel::contents(Placing& place) {
     auto* columns = new QHBoxLayout(all);
     columns->setContentsMargins(0, 0, 0, 0);
     columns->setSpacing(currentTheme().gap);
-    QVBoxLayout* const first =
-        column({batteryGroup(place, lamps_), imageQualityGroup(place), soundGroup(place)});
+    QVBoxLayout* const first = column({batteryGroup(place, lamps_), soundGroup(place)});
     first->addStretch(1);
     QVBoxLayout* const second = column({reviewGroup(place), captureGroup(place)});
     second->setStretch(0, 1);
     QVBoxLayout* const third = column({sendingGroup(place)});
     third->addStretch(1);
-    QVBoxLayout* const fourth = column({receivedGroup(place)});
+    QVBoxLayout* const fourth = column({receivedGroup(place), imageQualityGroup(place)});
     fourth->addStretch(1);
     columns->addLayout(first, 2);
     columns->addLayout(second, 3);
