@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 """Plays the transcripts of docs/remote-protocol.md over real sockets, and judges what comes back.
 
-    play_transcripts.py --truth FILE [--received FILE] TRANSCRIPTS...
+    play_transcripts.py --truth FILE [--received FILE] [--long] TRANSCRIPTS...
 
 It knows nothing of the station but its ports: reports and closes are what it sees, and what the simulated robot
 writes into its truth file. What a transcript says of the station's inner values is judged by the tests in virtual
-time; transcripts that need an operator are left to those as well. Ends with 1 and the line that did not hold.
---received writes what came on each connection of port 7070, one JSON text a line, in the order of connecting.
+time; transcripts that need an operator are left to those as well. Those that wait for longer than ten seconds are
+played with --long, and then alone. Ends with 1 and the line that did not hold. --received writes what came on each
+connection of port 7070, one JSON text a line, in the order of connecting.
 """
 import argparse, json, re, select, socket, struct, sys, time
 
@@ -42,12 +43,16 @@ def transcripts(path):
     return found
 
 
+def is_long(lines):
+    return any(text.startswith("wait ") and int(text[5:]) > 10_000 for text in lines)
+
+
 def eventually(condition, what, deadline=DEADLINE_S):
     end = time.monotonic() + deadline
     while not condition():
         if time.monotonic() > end:
             raise Differs(what)
-        time.sleep(0.005)
+        time.sleep(0.02)
 
 
 def station_end(own_port, port):
@@ -233,10 +238,12 @@ def main():
     options = argparse.ArgumentParser()
     options.add_argument("--truth", required=True)
     options.add_argument("--received")
+    options.add_argument("--long", action="store_true")
     options.add_argument("files", nargs="+")
     chosen = options.parse_args()
     player = Player(chosen.truth)
-    todo = [one for path in chosen.files for one in transcripts(path) if "not live" not in one[1]]
+    todo = [one for path in chosen.files for one in transcripts(path)
+            if "not live" not in one[1] and is_long(one[2]) == chosen.long]
     fresh = [one for one in todo if "fresh" in one[1]][:1]  # a station is fresh only once
     try:
         for one in fresh + [one for one in todo if "fresh" not in one[1]]:

@@ -23,12 +23,19 @@ struct RemoteClient : ProcessTest {
         theStation = station();
         ASSERT_TRUE(theStation->says("mode=wondering", 40)) << theStation->output();
     }
-    void expectHeld(const std::string& transcripts) {
+    void expectHeld(const std::string& transcripts, bool theLongOnes = false) {
         bringUp();
         if (HasFatalFailure()) return;
-        auto player = run({"python3", "-B", source + "/tests/processes/play_transcripts.py", "--truth", truth,
-                           "--received", received, source + "/" + transcripts},
-                          "player.out");
+        std::vector<std::string> command = {"python3",
+                                            "-B",
+                                            source + "/tests/processes/play_transcripts.py",
+                                            "--truth",
+                                            truth,
+                                            "--received",
+                                            received,
+                                            source + "/" + transcripts};
+        if (theLongOnes) command.emplace_back("--long");
+        auto player = run(command, "player.out");
         EXPECT_EQ(player->ends(100), 0) << player->output();
         EXPECT_THAT(player->output(), HasSubstr("held: "));
     }
@@ -93,6 +100,10 @@ struct RemoteClient : ProcessTest {
 
 TEST_F(RemoteClient, TheDocumentsConversationsHoldOverRealSockets) {
     expectHeld("docs/remote-protocol.md");
+}
+
+TEST_F(RemoteClient, TheDocumentsLongConversationsHoldOverRealSockets) {
+    expectHeld("docs/remote-protocol.md", true);
 }
 
 TEST_F(RemoteClient, TheConnectionsTranscriptsHoldOverRealSockets) {
