@@ -107,5 +107,28 @@ TEST_F(VirtualCallsFaults, AStationThatNeverReadsIsAFailureOnceTheBoundIsPassed)
     EXPECT_EQ(call->error(), "the other side does not read");
 }
 
+TEST(VirtualCallsEnd, WhatIsUnderWayWhenTheyGoComesToNothing) {
+    VirtualClock clock;
+    VirtualSockets sockets(clock);
+    auto listener = sockets.create("wsk", 0);
+    auto element = sockets.create("wsk", 1);
+    int closed = 0;
+    listener->setLocalPort(7070);
+    listener->onConnectionRequest = [&](std::int64_t request) { element->accept(request); };
+    element->onClose = [&] { ++closed; };
+    listener->listen();
+    {
+        VirtualCalls calls(clock, sockets);
+        const auto call = calls.call("station", 7070);
+        clock.runFor(10);
+        ASSERT_EQ(element->state(), SocketState::connected);
+        call->send("x");
+    }
+    element->send("y");
+    element.reset();
+    clock.runFor(10);
+    EXPECT_EQ(closed, 0);
+}
+
 }  // namespace
 }  // namespace quorrin

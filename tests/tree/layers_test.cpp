@@ -50,7 +50,9 @@ TEST(Layers, LeavesSeeTheWireAndOnlyTheRobotSeesTheLinksInterface) {
     EXPECT_TRUE(mayInclude("robot/direct_link.h", "robotlink/quorrin_sdk.h"));
     EXPECT_FALSE(mayInclude("robot/direct_link.h", "robotlink/motion_intake.h"));
     EXPECT_FALSE(mayInclude("gateway/gateway.h", "robotlink/quorrin_sdk.h"));
-    EXPECT_FALSE(mayInclude("client/client.h", "session/station.h"));
+    EXPECT_TRUE(mayInclude("client/remote_link.h", "platform/calls.h"));
+    EXPECT_FALSE(mayInclude("client/remote_link.h", "remote/frame_codec.h"));
+    EXPECT_FALSE(mayInclude("client/remote_link.h", "session/station.h"));
     EXPECT_FALSE(mayInclude("robot/body.h", "gateway/gateway.h"));
 }
 

@@ -32,7 +32,8 @@ std::size_t lineCount(const std::string& file) {
 // Qt is known to its ports, to windows and to the mains that put a program together.
 bool mayKnowQt(const std::string& pathInSrc) {
     return startsWith(pathInSrc, "platform/qt/") || startsWith(pathInSrc, "desktop/") ||
-           startsWith(pathInSrc, "apps/") || startsWith(pathInSrc, "robot/window/");
+           startsWith(pathInSrc, "apps/") || startsWith(pathInSrc, "robot/window/") ||
+           startsWith(pathInSrc, "client/window/");
 }
 
 TEST(ProjectRules, TheStationsFoldersIncludeNoQt) {
@@ -50,7 +51,8 @@ TEST(ProjectRules, RealClocksTimersSleepsSocketsAndThreadsStayInThePorts) {
     for (const auto& file : projectFiles("src", kCpp)) {
         if (startsWith(file, "src/platform/host/") || startsWith(file, "src/platform/qt/")) continue;
         if (file == "src/platform/civil_time.cpp") continue;  // the calendar's sums, no clock
-        const bool window = startsWith(file, "src/desktop/") || startsWith(file, "src/robot/window/");
+        const bool window = startsWith(file, "src/desktop/") || startsWith(file, "src/robot/window/") ||
+                            startsWith(file, "src/client/window/");
         EXPECT_THAT(window ? hostCallsOfAWindow(readText(file)) : hostCalls(readText(file)), IsEmpty())
             << file;
     }

@@ -10,11 +10,11 @@ class VirtualCall;
 // One connection in the making or made: what lies between the call and the element that took it. Either end
 // may go at any time. The station's events come under the array's source, the call's under its own.
 struct VirtualLine : std::enable_shared_from_this<VirtualLine> {
-    VirtualLine(VirtualCalls& owner_, VirtualCall& call_, int port_)
-        : owner(owner_), call(&call_), port(port_) {}
+    VirtualLine(VirtualCalls& calls, VirtualCall& call_, int port_)
+        : owner(&calls), call(&call_), port(port_) {}
 
-    VirtualCalls& owner;
-    VirtualCall* call;  // null once it is closed or gone
+    VirtualCalls* owner;  // null once it is gone: what is still under way then comes to nothing
+    VirtualCall* call;    // null once it is closed or gone
     EventSource source;
     int port;
     std::string array;
@@ -27,16 +27,20 @@ struct VirtualLine : std::enable_shared_from_this<VirtualLine> {
     bool over = false;         // for the station: nothing more goes there
 
     void later(EventSource* under, void (VirtualLine::*step)()) {
-        owner.clock_.arrive([line = shared_from_this(), step] { ((*line).*step)(); }, under);
+        owner->clock_.arrive(
+            [line = shared_from_this(), step] {
+                if (line->owner != nullptr) ((*line).*step)();
+            },
+            under);
     }
     void connect();
     void request();
-    void wakeStation() { later(&owner.sockets_.source(array), &VirtualLine::deliverToStation); }
+    void wakeStation() { later(&owner->sockets_.source(array), &VirtualLine::deliverToStation); }
     void wakeCall() { later(&source, &VirtualLine::deliverToCall); }
     void deliverToStation();
     void deliverToCall();
     void breakLater() {
-        later(&owner.sockets_.source(array), &VirtualLine::breakStation);
+        later(&owner->sockets_.source(array), &VirtualLine::breakStation);
         later(&source, &VirtualLine::breakCall);
     }
     void breakStation();
@@ -72,7 +76,7 @@ class VirtualCall : public Call {
     }
 
     std::optional<double> roundTripMs() const override {
-        return state_ == CallState::connected ? line_->owner.roundTripMs_ : std::nullopt;
+        return state_ == CallState::connected ? line_->owner->roundTripMs_ : std::nullopt;
     }
 
     void end(CallState state, const std::string& error) {
@@ -92,11 +96,11 @@ class VirtualCall : public Call {
 };
 
 void VirtualLine::connect() {
-    if (call == nullptr || !owner.reachable_ || owner.pulled_) return;
-    array = owner.sockets_.listeningOn(port);
+    if (call == nullptr || !owner->reachable_ || owner->pulled_) return;
+    array = owner->sockets_.listeningOn(port);
     if (array.empty()) return call->end(CallState::failed, "Connection refused");
     call->state_ = CallState::connected;
-    later(&owner.sockets_.source(array), &VirtualLine::request);
+    later(&owner->sockets_.source(array), &VirtualLine::request);
     if (const auto handler = call->onConnected) handler();
 }
 
@@ -106,18 +110,19 @@ void VirtualLine::request() {
     VirtualPeer peer;
     peer.onBytes = [line](std::string_view bytes) {
         const auto here = line.lock();
-        if (!here) return;
+        if (!here || here->owner == nullptr) return;
         here->toCall += bytes;
         here->wakeCall();
     };
     peer.onShut = [line] {
         const auto here = line.lock();
-        if (!here) return;
+        if (!here || here->owner == nullptr) return;
         here->element = -1;
         here->over = here->stationShut = true;
         here->wakeCall();
     };
-    const int taken = owner.sockets_.connect(array, owner.address_, ++owner.lastPort_, "", std::move(peer));
+    const int taken =
+        owner->sockets_.connect(array, owner->address_, ++owner->lastPort_, "", std::move(peer));
     requested = true;
     if (taken < 0) {
         over = stationShut = true;
@@ -129,16 +134,16 @@ void VirtualLine::request() {
 }
 
 void VirtualLine::deliverToStation() {
-    if (!requested || over || owner.pulled_) return;
-    if (!toStation.empty()) owner.sockets_.receive(array, element, std::exchange(toStation, {}));
+    if (!requested || over || owner->pulled_) return;
+    if (!toStation.empty()) owner->sockets_.receive(array, element, std::exchange(toStation, {}));
     // The station may have ended it in its handler.
     if (!callShut || over) return;
     over = true;
-    owner.sockets_.hangUp(array, element);
+    owner->sockets_.hangUp(array, element);
 }
 
 void VirtualLine::deliverToCall() {
-    if (call == nullptr || call->state_ != CallState::connected || owner.pulled_) return;
+    if (call == nullptr || call->state_ != CallState::connected || owner->pulled_) return;
     if (!toCall.empty()) {
         const std::string bytes = toCall.substr(0, kCallReadBytes);
         toCall.erase(0, bytes.size());
@@ -152,7 +157,7 @@ void VirtualLine::deliverToCall() {
 void VirtualLine::breakStation() {
     if (over) return;
     over = true;
-    if (element >= 0) owner.sockets_.fail(array, element);
+    if (element >= 0) owner->sockets_.fail(array, element);
 }
 
 void VirtualLine::breakCall() {
@@ -161,7 +166,11 @@ void VirtualLine::breakCall() {
     if (call->state_ == CallState::failed) call->end(CallState::failed, call->error_);
 }
 
-VirtualCalls::~VirtualCalls() = default;
+VirtualCalls::~VirtualCalls() {
+    for (const auto& weak : lines_) {
+        if (const auto line = weak.lock()) line->owner = nullptr;
+    }
+}
 
 std::unique_ptr<Call> VirtualCalls::call(const std::string& /*host*/, int port) {
     ++tried_[port];
