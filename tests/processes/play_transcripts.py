@@ -1,15 +1,16 @@
 #!/usr/bin/env python3
 """Plays the transcripts of docs/remote-protocol.md over real sockets, and judges what comes back.
 
-    play_transcripts.py --truth FILE [--received FILE] [--long] TRANSCRIPTS...
+    play_transcripts.py --truth FILE [--received FILE] [--long] [--pieces SEED] TRANSCRIPTS...
 
 It knows nothing of the station but its ports: reports and closes are what it sees, and what the simulated robot
 writes into its truth file. What a transcript says of the station's inner values is judged by the tests in virtual
 time; transcripts that need an operator are left to those as well. Those that wait for longer than ten seconds are
 played with --long, and then alone. Ends with 1 and the line that did not hold. --received writes what came on each
-connection of port 7070, one JSON text a line, in the order of connecting.
+connection of port 7070, one JSON text a line, in the order of connecting. With --pieces bytes that may reach the
+station in any pieces are cut at random places.
 """
-import argparse, json, re, select, socket, struct, sys, time
+import argparse, json, random, re, select, socket, struct, sys, time
 
 DEADLINE_S, PING_EVERY_S = 40, 12
 COMMAND, SENSOR = 7060, 7070
@@ -148,8 +149,9 @@ class Connection:
 
 
 class Player:
-    def __init__(self, truth):
+    def __init__(self, truth, pieces):
         self.truth, self.open, self.mode, self.pinged = truth, {}, AT_REST, 0.0
+        self.random = None if pieces is None else random.Random(pieces)
 
     def robot(self, what):
         def last():
@@ -158,6 +160,15 @@ class Player:
         wanted = {"stands": lambda: abs(last()["v"]) < 0.005, "drives": lambda: last()["v"] > 0.05}
         number = int(what.split()[1]) if " " in what else 0
         eventually(wanted.get(what, lambda: last()["servos"][2] == number), "the robot does not")
+
+    def cut(self, data, one_read):
+        if one_read or self.random is None:
+            return [data]
+        pieces = []
+        while data:
+            length = self.random.randint(1, 9)
+            pieces, data = pieces + [data[:length]], data[length:]
+        return pieces
 
     def visit(self):
         """Somebody who says a PING and goes, so that no transcript meets the drop of a silence before it."""
@@ -185,7 +196,8 @@ class Player:
             self.open.pop((who, port)).close(rest == " resets")
         else:
             data = wire_bytes(rest[rest.index(":") + 1:])
-            self.open[who, port].send(data)
+            for piece in self.cut(data, " in one read" in rest):
+                self.open[who, port].send(piece)
             if b"PING" in data:
                 self.pinged = time.monotonic()
 
@@ -239,9 +251,10 @@ def main():
     options.add_argument("--truth", required=True)
     options.add_argument("--received")
     options.add_argument("--long", action="store_true")
+    options.add_argument("--pieces", type=int)
     options.add_argument("files", nargs="+")
     chosen = options.parse_args()
-    player = Player(chosen.truth)
+    player = Player(chosen.truth, chosen.pieces)
     todo = [one for path in chosen.files for one in transcripts(path)
             if "not live" not in one[1] and is_long(one[2]) == chosen.long]
     fresh = [one for one in todo if "fresh" in one[1]][:1]  # a station is fresh only once

@@ -23,7 +23,7 @@ struct RemoteClient : ProcessTest {
         theStation = station();
         ASSERT_TRUE(theStation->says("mode=wondering", 40)) << theStation->output();
     }
-    void expectHeld(const std::string& transcripts, bool theLongOnes = false) {
+    void expectHeld(const std::string& transcripts, const std::vector<std::string>& options = {}) {
         bringUp();
         if (HasFatalFailure()) return;
         std::vector<std::string> command = {"python3",
@@ -34,7 +34,7 @@ struct RemoteClient : ProcessTest {
                                             "--received",
                                             received,
                                             source + "/" + transcripts};
-        if (theLongOnes) command.emplace_back("--long");
+        command.insert(command.end(), options.begin(), options.end());
         auto player = run(command, "player.out");
         EXPECT_EQ(player->ends(100), 0) << player->output();
         EXPECT_THAT(player->output(), HasSubstr("held: "));
@@ -103,15 +103,15 @@ TEST_F(RemoteClient, TheDocumentsConversationsHoldOverRealSockets) {
 }
 
 TEST_F(RemoteClient, TheDocumentsLongConversationsHoldOverRealSockets) {
-    expectHeld("docs/remote-protocol.md", true);
+    expectHeld("docs/remote-protocol.md", {"--long"});
 }
 
 TEST_F(RemoteClient, TheConnectionsTranscriptsHoldOverRealSockets) {
     expectHeld("tests/remote/transcripts/connections.txt");
 }
 
-TEST_F(RemoteClient, TheCommandsTranscriptsHoldOverRealSockets) {
-    expectHeld("tests/remote/transcripts/commands.txt");
+TEST_F(RemoteClient, TheCommandsTranscriptsHoldOverRealSocketsInRandomPieces) {
+    expectHeld("tests/remote/transcripts/commands.txt", {"--pieces", "7"});
 }
 
 TEST_F(RemoteClient, WhatTheFlightRecorderWroteReplaysToTheReportsThatTheClientsGot) {
