@@ -5,8 +5,9 @@
 namespace quorrin {
 
 RemoteDriver::RemoteDriver(Clock& clock, RemoteLink& link)
-    : link_(link), sender_(link, clock.nowMs()), timer_(clock, [this] { step(stick_); }) {
+    : link_(link), sender_(clock, link, clock.nowMs()), timer_(clock, [this] { step(stick_); }) {
     timer_.setInterval(kStepMs);
+    sender_.onLetGo.add([this] { onChange.tell(); });
     link_.onState.add([this](RemoteChannel channel) { linkChanged(channel); });
     link_.onReport.add([this](const StatusReport&) { onChange.tell(); });
 }

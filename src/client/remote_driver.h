@@ -61,8 +61,9 @@ class RemoteDriver {
     void modeKey();
     // The release button. Nothing unless this client holds the robot.
     void release();
-    // As release(); the link is stopped by whoever owns it.
+    // As release(). Whoever owns the link stops it once this is not releasing() any more: within a second.
     void quit() { release(); }
+    bool releasing() const { return sender_.releasing(); }
 
     // Levels, hold or known mode may have changed.
     Listeners<> onChange;

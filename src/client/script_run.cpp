@@ -35,7 +35,7 @@ ScriptRun::ScriptRun(Clock& clock, Calls& calls, RemoteLink& link, RemoteScript 
       link_(link),
       script_(std::move(script)),
       ends_(std::move(ends)),
-      sender_(link, clock.nowMs()),
+      sender_(clock, link, clock.nowMs()),
       timer_(clock),
       settle_(clock, [this] { standsNow(); }),
       close_(clock, [this] { awaitTheClose(); }) {
@@ -229,12 +229,16 @@ void ScriptRun::finish(int status) {
     timer_.setEnabled(false);
     settle_.setEnabled(false);
     sender_.release();
-    link_.stop();
-    closeUntilMs_ = clock_.nowMs() + kCallLingerMs + kLookMs;
     close_.setEnabled(true);
 }
 
 void ScriptRun::awaitTheClose() {
+    if (sender_.releasing()) return;
+    if (closeUntilMs_ == 0) {
+        link_.stop();
+        closeUntilMs_ = clock_.nowMs() + kCallLingerMs;
+        return;
+    }
     if (calls_.lingering() && clock_.nowMs() < closeUntilMs_) return;
     close_.setEnabled(false);
     ends_.ended(status_);

@@ -13,7 +13,7 @@ using testing::ElementsAre;
 constexpr DriveFields kForward{5000, 4000, 10000};
 
 struct DriveSenderTest : ClientBench, testing::Test {
-    DriveSender sender{link, 99};
+    DriveSender sender{clock, link, 99};
     std::string count() const { return gui.txtCommandCount.text(); }
 };
 
@@ -53,7 +53,7 @@ TEST(DriveCounter, BeginsAnywhereAndWrapsInside16Bits) {
     ClientBench bench;
     bench.connectAll();
     const auto counts = [&bench](std::int64_t seed) {
-        DriveSender sender(bench.link, seed);
+        DriveSender sender(bench.clock, bench.link, seed);
         sender.drive({});
         const int first = sender.counter();
         sender.drive({});
@@ -84,15 +84,65 @@ TEST_F(DriveSenderTest, ReleaseSendsNeutralAndThenClos) {
     sender.drive({6000, 4000, 10000, 1900, 2100, 3000, 0});
     EXPECT_TRUE(sender.holds());
     EXPECT_TRUE(sender.rolls());
+    modeBecomes("JOY");
+    run(500);
     EXPECT_TRUE(sender.release());
+    EXPECT_FALSE(sender.holds());
+    EXPECT_FALSE(sender.rolls());
     run(10);
     EXPECT_EQ(values.steeringLevel, 5000);
     EXPECT_EQ(values.gasLevel, 10000);
     EXPECT_EQ(values.brakeLevel, 10000);
     EXPECT_EQ(values.headCmdUpDown, 1900) << "the head stays where it is";
     EXPECT_FALSE(values.manualPanelActive);
+}
+
+TEST_F(DriveSenderTest, AYoungHoldStandsAtOnceAndIsLetGoOnceTheStationHasSeenIt) {
+    connectAll();
+    sender.drive(kForward);
+    EXPECT_TRUE(sender.release());
+    run(10);
+    EXPECT_EQ(values.gasLevel, 10000);
+    EXPECT_TRUE(values.manualPanelActive);
+    EXPECT_TRUE(sender.releasing());
+    modeBecomes("JOY");
+    EXPECT_TRUE(values.manualPanelActive);
+    run(300);
+    EXPECT_FALSE(sender.releasing());
     EXPECT_FALSE(sender.holds());
-    EXPECT_FALSE(sender.rolls());
+    EXPECT_FALSE(values.manualPanelActive);
+}
+
+TEST_F(DriveSenderTest, WithoutAReportOfJoyAHoldIsLetGoAfterASecond) {
+    connectAll();
+    sender.drive(kForward);
+    sender.release();
+    run(990);
+    EXPECT_TRUE(values.manualPanelActive);
+    run(30);
+    EXPECT_FALSE(values.manualPanelActive);
+}
+
+TEST_F(DriveSenderTest, ADriveCommandCallsTheReleaseOff) {
+    connectAll();
+    sender.drive(kForward);
+    sender.release();
+    sender.drive(kForward);
+    run(3000);
+    EXPECT_TRUE(values.manualPanelActive);
+    EXPECT_TRUE(sender.holds());
+    EXPECT_EQ(values.gasLevel, 4000);
+}
+
+TEST_F(DriveSenderTest, AReleaseThatLosesItsConnectionIsNotMadeUpForLater) {
+    connectAll();
+    sender.drive(kForward);
+    sender.release();
+    calls.breakAll();
+    run(5000);
+    ASSERT_TRUE(link.connected(RemoteChannel::command));
+    EXPECT_FALSE(sender.releasing());
+    EXPECT_TRUE(sender.holds());
 }
 
 TEST_F(DriveSenderTest, WhoDoesNotHoldTheRobotTakesItFromNobodyByReleasing) {

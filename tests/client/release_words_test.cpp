@@ -52,7 +52,7 @@ struct ReleaseAtAStation : ClientBench, testing::Test {
         }
     }
     std::string words() { return releaseWords(true, sender.holds(), sender.knownMode()); }
-    DriveSender sender{link, 1};
+    DriveSender sender{clock, link, 1};
 };
 
 TEST_F(ReleaseAtAStation, ARobotThatWanderedWandersAgain) {
@@ -67,6 +67,17 @@ TEST_F(ReleaseAtAStation, ARobotThatWanderedWandersAgain) {
     sender.release();
     keepLinks(3);
     EXPECT_EQ(gui.txtRobotStatus.text(), "wondering");
+}
+
+TEST_F(ReleaseAtAStation, ARobotThatIsLetGoAMomentAfterItWasTakenWandersAgainToo) {
+    reachWondering();
+    link.start();
+    keepLinks(80);
+    sender.drive({});
+    sender.release();
+    keepLinks(15);
+    EXPECT_EQ(gui.txtRobotStatus.text(), "wondering");
+    EXPECT_FALSE(sender.holds());
 }
 
 TEST_F(ReleaseAtAStation, ARobotThatWasIdleGoesIdle) {

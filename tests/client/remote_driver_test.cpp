@@ -127,6 +127,8 @@ TEST_F(RemoteDriverTest, TheReleaseButtonSendsNeutralAndThenClos) {
     driver.release();
     run(10);
     EXPECT_EQ(values.gasLevel, 10000);
+    EXPECT_TRUE(driver.releasing()) << "no report has told of JOY yet";
+    run(1000);
     EXPECT_FALSE(values.manualPanelActive);
     EXPECT_FALSE(driver.holds());
 }
@@ -155,6 +157,7 @@ TEST_F(RemoteDriverTest, QuittingReleasesAndTouchesNothingWhereNobodyWasDriving)
     connectAll();
     driver.setKeys(left);
     driver.quit();
+    while (driver.releasing()) run(10);
     link.stop();
     run(100);
     EXPECT_FALSE(values.manualPanelActive);
@@ -340,6 +343,18 @@ TEST_F(RemoteDriverTest, ChangesAreToldToTheWindow) {
     calls.breakAll();
     run(10);
     EXPECT_GE(told, 1);
+}
+
+TEST_F(RemoteDriverTest, AReleaseThatComesASecondLaterIsToldToTheWindow) {
+    connectAll();
+    driver.setKeys(forward);
+    driver.release();
+    EXPECT_TRUE(driver.holds());
+    int told = 0;
+    driver.onChange.add([&] { ++told; });
+    run(1010);
+    EXPECT_EQ(told, 1);
+    EXPECT_FALSE(driver.holds());
 }
 
 }  // namespace
