@@ -48,7 +48,7 @@ target_link_libraries(quorrin_qt PRIVATE SDL2::SDL2)
 target_link_options(quorrin_qt INTERFACE LINKER:--as-needed)
 
 quorrin_library(quorrin_gateway FOLDERS gateway LINK quorrin_wire)
-quorrin_library(quorrin_robot FOLDERS robot LINK quorrin_station quorrin_wire box2d::box2d nlohmann_json::nlohmann_json)
+quorrin_library(quorrin_robot FOLDERS robot robot/eyes LINK quorrin_station quorrin_wire box2d::box2d nlohmann_json::nlohmann_json)
 # The simulated robot's window; the robot itself wants nothing of Qt.
 quorrin_library(quorrin_robot_window FOLDERS robot/window LINK quorrin_robot Qt6::Widgets)
 quorrin_library(quorrin_replay FOLDERS replay LINK quorrin_station quorrin_robot quorrin_virtual quorrin_host nlohmann_json::nlohmann_json)

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <memory>
 
+#include "apps/camera_pictures.h"
 #include "base/program_error.h"
 #include "platform/host/host_folders.h"
 #include "platform/host/posix_files.h"
@@ -45,6 +46,17 @@ SimulatedRobot makeRobot(const RobotOptions& options, Files& files, const std::s
     return SimulatedRobot(std::move(site), options.seed, std::move(scenario));
 }
 
+CameraSetup cameraOf(const RobotOptions& options, Files& files) {
+    CameraSetup camera;
+    camera.size = {options.cameraWidth, options.cameraHeight};
+    camera.rate = options.cameraRate;
+    if (options.camera.empty()) return camera;
+    const auto pictures =
+        std::make_shared<StandInPictures>(files, pictureFileReader(files), options.camera, camera.size, say);
+    camera.standIn = [pictures] { return pictures->next(); };
+    return camera;
+}
+
 int runRobotProgram(const RobotOptions& options, bool window) {
     PosixFiles files;
     const HostFolders host = hostFolders();
@@ -58,7 +70,7 @@ int runRobotProgram(const RobotOptions& options, bool window) {
 
     QtClock clock;
     QtStreams streams(clock, host.run);
-    RobotServer server(clock, streams, robot, say);
+    RobotServer server(clock, streams, robot, say, cameraOf(options, files));
     const std::string error = server.listen(options.listen, options.port);
     if (!error.empty()) throw SiteError(error);
     say("quorrin-robot in site " + robot.site().name + ", listening on " + options.listen + " ports " +

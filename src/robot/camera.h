@@ -1,10 +1,8 @@
-// The simulated robot's camera: for now a test picture that shows the robot's time.
+// A picture as a simulated robot's camera gives it, and as a bitmap file.
 //
-// Colour bars, brighter with the site's light, a bar that moves once a second across the lower part, and the
-// whole seconds in figures. Three bytes a pixel (red, green, blue), rows from the top, no padding.
+// Three bytes a pixel (red, green, blue), rows from the top, no padding.
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 namespace quorrin {
@@ -14,8 +12,6 @@ struct CameraPicture {
     int height = 0;
     std::string pixels;
 };
-
-CameraPicture takePicture(std::int64_t timeMs, double light);
 
 // The picture as a 24-bit Windows bitmap file.
 std::string bitmapFile(const CameraPicture& picture);

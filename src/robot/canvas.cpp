@@ -2,47 +2,15 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cmath>
+
+#include "robot/glyphs.h"
 
 namespace quorrin {
 
 namespace {
 
 constexpr int kFine = 4;  // dots a pixel, each way
-
-// Five columns by seven rows; each row's five bits, the leftmost highest.
-struct Glyph {
-    char letter;
-    std::array<std::uint8_t, 7> rows;
-};
-constexpr std::array<Glyph, 37> kGlyphs{
-    {{'A', {14, 17, 17, 31, 17, 17, 17}}, {'B', {30, 17, 17, 30, 17, 17, 30}},
-     {'C', {14, 17, 16, 16, 16, 17, 14}}, {'D', {30, 17, 17, 17, 17, 17, 30}},
-     {'E', {31, 16, 16, 30, 16, 16, 31}}, {'F', {31, 16, 16, 30, 16, 16, 16}},
-     {'G', {14, 17, 16, 23, 17, 17, 15}}, {'H', {17, 17, 17, 31, 17, 17, 17}},
-     {'I', {14, 4, 4, 4, 4, 4, 14}},      {'J', {7, 2, 2, 2, 2, 18, 12}},
-     {'K', {17, 18, 20, 24, 20, 18, 17}}, {'L', {16, 16, 16, 16, 16, 16, 31}},
-     {'M', {17, 27, 21, 21, 17, 17, 17}}, {'N', {17, 17, 25, 21, 19, 17, 17}},
-     {'O', {14, 17, 17, 17, 17, 17, 14}}, {'P', {30, 17, 17, 30, 16, 16, 16}},
-     {'Q', {14, 17, 17, 17, 21, 18, 13}}, {'R', {30, 17, 17, 30, 20, 18, 17}},
-     {'S', {15, 16, 16, 14, 1, 1, 30}},   {'T', {31, 4, 4, 4, 4, 4, 4}},
-     {'U', {17, 17, 17, 17, 17, 17, 14}}, {'V', {17, 17, 17, 17, 17, 10, 4}},
-     {'W', {17, 17, 17, 21, 21, 21, 10}}, {'X', {17, 17, 10, 4, 10, 17, 17}},
-     {'Y', {17, 17, 17, 10, 4, 4, 4}},    {'Z', {31, 1, 2, 4, 8, 16, 31}},
-     {'0', {14, 17, 19, 21, 25, 17, 14}}, {'1', {4, 12, 4, 4, 4, 4, 14}},
-     {'2', {14, 17, 1, 2, 4, 8, 31}},     {'3', {31, 2, 4, 2, 1, 17, 14}},
-     {'4', {2, 6, 10, 18, 31, 2, 2}},     {'5', {31, 16, 30, 1, 1, 17, 14}},
-     {'6', {6, 8, 16, 30, 17, 17, 14}},   {'7', {31, 1, 2, 4, 8, 8, 8}},
-     {'8', {14, 17, 17, 14, 17, 17, 14}}, {'9', {14, 17, 17, 15, 1, 2, 12}},
-     {'.', {0, 0, 0, 0, 0, 12, 12}}}};
-
-const Glyph* glyphOf(char letter) {
-    const char capital = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
-    const auto place = std::find_if(kGlyphs.begin(), kGlyphs.end(),
-                                    [&](const Glyph& glyph) { return glyph.letter == capital; });
-    return place == kGlyphs.end() ? nullptr : &*place;
-}
 
 }  // namespace
 
@@ -119,10 +87,10 @@ void Canvas::text(Vec2 middle, double height, const std::string& text, Ink ink) 
     double x = middle.x - textWidth(height, text) / 2;
     const double top = middle.y - height / 2;
     for (const char letter : text) {
-        if (const Glyph* glyph = glyphOf(letter)) {
+        if (const GlyphRows* rows = glyphRows(letter)) {
             for (int row = 0; row < 7; ++row) {
                 for (int column = 0; column < 5; ++column) {
-                    if ((glyph->rows[static_cast<std::size_t>(row)] >> (4 - column) & 1) == 0) continue;
+                    if (((*rows)[static_cast<std::size_t>(row)] >> (4 - column) & 1) == 0) continue;
                     const Vec2 a{x + column * unit, top + row * unit};
                     fill({a, a + Vec2{unit, 0}, a + Vec2{unit, unit}, a + Vec2{0, unit}}, ink);
                 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "robot/eyes/robot_camera.h"
+
 namespace quorrin {
 
 namespace {
@@ -141,9 +143,7 @@ class DirectLink::Multimedia : public DirectLink::Instance {
         if (robot() != nullptr) camera_.setEnabled(true);
     }
     void SaveFrameToFile(const std::string& path) override {
-        if (pictureMs_ >= 0)
-            owner_.files_.writeVolatile(path,
-                                        bitmapFile(takePicture(pictureMs_, owner_.robot_.site().light)));
+        if (view_.frame > 0) owner_.files_.writeVolatile(path, bitmapFile(eyes_.takePicture(view_)));
     }
     void PlaySoundFile(const std::string& path) override {
         auto* it = robot();
@@ -186,12 +186,13 @@ class DirectLink::Multimedia : public DirectLink::Instance {
     void takePictureNow() {
         owner_.catchUp();
         if (owner_.robot_.silent(link_)) return;
-        pictureMs_ = owner_.robot_.nowMs();
+        view_ = owner_.robot_.view(view_.frame + 1);
         deliver(ImageFrame, [] {});
     }
 
+    RobotCamera eyes_{owner_.robot_.site()};
+    CameraView view_;  // of the last frame, drawn when it is saved; number 0: none yet
     TimerMM camera_;
-    std::int64_t pictureMs_ = -1;
     int soundHandle_ = 0;
     bool listening_ = false;
 };

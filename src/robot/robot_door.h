@@ -36,6 +36,8 @@ class RobotDoor {
     bool heardSomething();
     // False when nobody is inside or does not take it.
     bool send(const wire::Packet& packet);
+    // Of what was sent, the bytes that have not left yet.
+    std::size_t waitingBytes() const { return inside_ ? inside_->waitingBytes() : 0; }
     // Breaks the connection without a word.
     void drop(const std::string& why);
     // Says goodbye and listens no more.

@@ -16,6 +16,10 @@ struct RobotOptions {
     std::string truth;
     std::string listen = "127.127.0.1";
     int port = 10001;
+    std::string camera;  // a picture file or a folder of them; "" for what the robot sees
+    int cameraWidth = 320;
+    int cameraHeight = 240;
+    double cameraRate = 15;  // pictures a second
     bool headless = false;
     bool help = false;
     bool version = false;

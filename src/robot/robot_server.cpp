@@ -8,23 +8,25 @@ namespace {
 
 constexpr std::int64_t kTickMs = kRobotStepMs;
 constexpr std::int64_t kHeldUpMs = 3 * kTickMs;  // a longer tick was this program's own delay
-constexpr std::int64_t kPictureMs = 66;
 constexpr std::int64_t kSoundMs = 100;
+constexpr std::size_t kBehindBytes = 64 * 1024;  // with more under way a picture waits
 constexpr int kSamplesABuffer = 800;
 constexpr double kHum = 20.0;  // a quiet room
 
 }  // namespace
 
 RobotServer::RobotServer(Clock& clock, Streams& streams, SimulatedRobot& robot,
-                         std::function<void(const std::string&)> log)
+                         std::function<void(const std::string&)> log, CameraSetup camera)
     : clock_(clock),
       streams_(streams),
       robot_(robot),
       startMs_(clock.nowMs() - robot.nowMs()),
       motion_(clock, wire::ROLE_MOT, log),
       multimedia_(clock, wire::ROLE_TI, log),
+      eyes_(robot.site(), camera.size),
+      standIn_(std::move(camera.standIn)),
+      pictures_(clock, camera.rate, [this] { return sendPicture(); }),
       timer_(clock, [this] { tick(); }),
-      camera_(clock, [this] { sendPicture(); }),
       sound_(clock, [this] { sendSound(); }) {
     motion_.refuses = [this] { return robot_.refused(RobotLink::mot); };
     motion_.onCame = [this] { robot_.motionPeerCame(); };
@@ -32,7 +34,7 @@ RobotServer::RobotServer(Clock& clock, Streams& streams, SimulatedRobot& robot,
     motion_.onOperation = [this](const wire::Packet& packet) { motionOperation(packet); };
     multimedia_.refuses = [this] { return robot_.refused(RobotLink::ti); };
     multimedia_.onGone = [this] {
-        camera_.setEnabled(false);
+        pictures_.forget();
         sound_.setEnabled(false);
     };
     multimedia_.onOperation = [this](const wire::Packet& packet) { multimediaOperation(packet); };
@@ -45,8 +47,6 @@ RobotServer::RobotServer(Clock& clock, Streams& streams, SimulatedRobot& robot,
     };
     timer_.setInterval(kTickMs);
     timer_.setEnabled(true);
-    camera_.setPeriodic(false);
-    camera_.setInterval(kPictureMs);
     sound_.setInterval(kSoundMs);
 }
 
@@ -119,7 +119,7 @@ void RobotServer::multimediaOperation(const wire::Packet& packet) {
             robot_.writePowerByte(packet.write_power_byte().value());
             break;
         case wire::Packet::kRequestImage:
-            camera_.setEnabled(true);
+            pictures_.add();
             break;
         case wire::Packet::kPlaySound:
             robot_.playSound(packet.play_sound().name(), packet.play_sound().data());
@@ -186,15 +186,18 @@ void RobotServer::sendPower(const PowerReadings& r) {
     multimedia_.send(packet);
 }
 
-void RobotServer::sendPicture() {
-    if (robot_.silent(RobotLink::ti)) return;
-    CameraPicture picture = robot_.picture();
+bool RobotServer::sendPicture() {
+    if (robot_.silent(RobotLink::ti)) return true;  // nobody hears it
+    if (multimedia_.waitingBytes() > kBehindBytes) return false;
+    ++frames_;
+    CameraPicture picture = standIn_ ? standIn_() : eyes_.takePicture(robot_.view(frames_));
     wire::Packet packet;
     wire::ImageFrame& frame = *packet.mutable_image_frame();
     frame.set_width(picture.width);
     frame.set_height(picture.height);
     frame.set_pixels(std::move(picture.pixels));
     multimedia_.send(packet);
+    return true;
 }
 
 void RobotServer::sendSound() {

@@ -174,6 +174,20 @@ std::vector<PlayedSound> SimulatedRobot::takeSounds() {
     return std::exchange(sounds_, {});
 }
 
+CameraView SimulatedRobot::view(std::uint32_t frameNumber) const {
+    const Pose pose = body_.pose();
+    const Vec2 look = gaze(servos_);
+    CameraView view;
+    view.timeMs = nowMs_;
+    view.frame = frameNumber;
+    view.eye = at(pose.at, kEyeHeight_m);
+    view.yaw = pose.heading + look.x;
+    view.pitch = look.y;
+    view.boxes = body_.boxes();
+    view.people = people_.positions();
+    return view;
+}
+
 double SimulatedRobot::dockVolts() const {
     if (on(cableUntilMs_)) return cableVolts_;
     if (!site_.hasDock || dockDenied_) return 0;

@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "robot/body.h"
-#include "robot/camera.h"
 #include "robot/drives.h"
+#include "robot/eyes/view.h"
 #include "robot/noise.h"
 #include "robot/people.h"
 #include "robot/power.h"
@@ -64,7 +64,8 @@ class SimulatedRobot {
     // Multimedia link
     void writePowerByte(int value) { powerByte_ = value & 0xFF; }
     void playSound(const std::string& name, const std::string& file);
-    CameraPicture picture() const { return takePicture(nowMs_, site_.light); }
+    // What its camera sees now.
+    CameraView view(std::uint32_t frameNumber) const;
 
     // A link that a scenario has silenced or broken now.
     bool silent(RobotLink link) const { return silentUntilMs_[static_cast<std::size_t>(link)] > nowMs_; }

@@ -37,6 +37,9 @@ class PacketChannel {
     // Bytes that came in so far; a watchdog sees by them that the peer lives.
     std::uint64_t bytesHeard() const { return bytesHeard_; }
 
+    // Of what was sent, the bytes that the machine has not taken yet.
+    std::size_t waitingBytes() const { return stream_->pendingBytes(); }
+
     // False when it is closed, the packet is above the limit, or the peer does not take what was sent before.
     bool send(const wire::Packet& packet);
     // Says Goodbye and closes in order; onEnded does not follow.

@@ -152,6 +152,21 @@ TEST_F(DirectLinkTest, AnswersARequestedPictureAndSavesItAsABitmap) {
     EXPECT_EQ(files.read("/app/shot.bmp").value_or("").size(), 54u + 320 * 240 * 3);
 }
 
+TEST_F(DirectLinkTest, SavesTheMomentOfTheLastFrameHoweverLateItIsAskedFor) {
+    bringUp();
+    files.createFolder("/app");
+    robotTI.RequestImage();
+    clock.runFor(200);
+    robotTI.SaveFrameToFile("/app/early.bmp");
+    clock.runFor(5000);
+    robotTI.SaveFrameToFile("/app/late.bmp");
+    EXPECT_EQ(files.read("/app/late.bmp"), files.read("/app/early.bmp"));
+    robotTI.RequestImage();
+    clock.runFor(200);
+    robotTI.SaveFrameToFile("/app/next.bmp");
+    EXPECT_NE(files.read("/app/next.bmp"), files.read("/app/early.bmp")) << "another time and number";
+}
+
 TEST_F(DirectLinkTest, SendsMicrophoneBuffersBetweenStartAndStop) {
     int buffers = 0;
     robotTI.SoundFrame.handler = [&] { ++buffers; };
