@@ -56,7 +56,9 @@ quorrin_library(quorrin_client FOLDERS client LINK quorrin_base)
 # The drawing of the button skins; the tool that draws them is built before the windows that carry them.
 quorrin_library(quorrin_skin FOLDERS desktop/skin LINK Qt6::Gui)
 target_compile_definitions(quorrin_skin PUBLIC QT_NO_KEYWORDS)
+# The look that the windows of several programs share.
+quorrin_library(quorrin_look FOLDERS desktop/theme desktop/tiles LINK quorrin_base Qt6::Widgets)
+target_compile_definitions(quorrin_look PUBLIC QT_NO_KEYWORDS)
 # The windows: widgets bound to the forms, nothing decided in them.
-quorrin_library(quorrin_desktop FOLDERS desktop desktop/binding desktop/forms desktop/theme desktop/views desktop/widgets
-    LINK quorrin_skin quorrin_station quorrin_base Qt6::Widgets)
-target_compile_definitions(quorrin_desktop PUBLIC QT_NO_KEYWORDS)
+quorrin_library(quorrin_desktop FOLDERS desktop desktop/binding desktop/forms desktop/views desktop/widgets
+    LINK quorrin_look quorrin_skin quorrin_station quorrin_base Qt6::Widgets)

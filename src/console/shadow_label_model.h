@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
+#include "base/colour_mix.h"
 #include "console/button_face.h"
-#include "console/colour_mix.h"
 #include "console/property_bag.h"
 
 namespace quorrin {

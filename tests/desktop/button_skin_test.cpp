@@ -7,7 +7,7 @@
 #include <cmath>
 #include <string>
 
-#include "console/colour_mix.h"
+#include "base/colour_mix.h"
 #include "desktop/skin/skin_looks.h"
 #include "desktop/skin/skin_strip.h"
 #include "desktop/widgets/control_look.h"

@@ -6,7 +6,7 @@
 #include <QScrollArea>
 #include <algorithm>
 
-#include "desktop/widgets/glance_tile.h"
+#include "desktop/tiles/glance_tile.h"
 
 namespace quorrin {
 

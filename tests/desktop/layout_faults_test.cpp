@@ -5,9 +5,9 @@
 
 #include <QLabel>
 
+#include "desktop/tiles/glance_tile.h"
 #include "desktop/views/grid_legend.h"
 #include "desktop/views/strip_chart_view.h"
-#include "desktop/widgets/glance_tile.h"
 
 namespace quorrin {
 namespace {

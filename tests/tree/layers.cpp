@@ -22,6 +22,9 @@ const std::map<std::string, std::set<std::string>> kBeside = {
     {"gateway", {"platform", "base", "wire"}},
     {"robot", {"platform", "base", "wire"}},
     {"client", {"platform", "base", "wire"}},
+    {"client/window", {"platform", "base", "client", "desktop/theme", "desktop/tiles"}},
+    {"desktop/theme", {"platform", "base"}},
+    {"desktop/tiles", {"platform", "base", "desktop/theme"}},
 };
 
 int rankOf(const std::string& room) {
@@ -32,8 +35,9 @@ int rankOf(const std::string& room) {
 }  // namespace
 
 std::string roomOf(const std::string& path) {
-    static const std::set<std::string> deep = {"session/record", "navigation/math", "platform/host",
-                                               "platform/qt", "platform/virtual"};
+    static const std::set<std::string> deep = {"session/record", "navigation/math",  "platform/host",
+                                               "platform/qt",    "platform/virtual", "desktop/theme",
+                                               "desktop/tiles",  "client/window"};
     const std::size_t first = path.find('/');
     if (first == std::string::npos) return "";
     const std::size_t second = path.find('/', first + 1);
@@ -58,7 +62,7 @@ bool mayInclude(const std::string& from, const std::string& to) {
         return rankOf(below) >= 0 || below == "robot" || below == "platform/virtual" ||
                below == "platform/host";
     }
-    if (above == "desktop") return rankOf(below) >= 0;
+    if (above == "desktop") return rankOf(below) >= 0 || below == "desktop/theme" || below == "desktop/tiles";
     return rankOf(above) >= 0 && rankOf(below) >= 0 && rankOf(below) < rankOf(above);
 }
 

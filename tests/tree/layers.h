@@ -5,7 +5,9 @@
 // leaves above wire, base and the ports (robot also sees the link's interface). The ports' siblings
 // (platform/host, /qt, /virtual) know ports and base and not each other, except that platform/qt is built on
 // platform/host. replay stands above the session, the robot and virtual time; desktop above the session; apps
-// above everything, and nothing includes apps.
+// above everything, and nothing includes apps. desktop/theme and desktop/tiles are the look that the windows
+// of several programs share: they know base alone, and the window of the client (client/window) is built of
+// them.
 #pragma once
 
 #include <string>

@@ -56,6 +56,25 @@ TEST(Layers, LeavesSeeTheWireAndOnlyTheRobotSeesTheLinksInterface) {
     EXPECT_FALSE(mayInclude("robot/body.h", "gateway/gateway.h"));
 }
 
+TEST(Layers, TheClientsWindowSharesTheLookAndNothingElseOfTheStation) {
+    EXPECT_TRUE(mayInclude("client/window/remote_window.h", "client/client_face.h"));
+    EXPECT_TRUE(mayInclude("client/window/remote_window.h", "desktop/theme/theme.h"));
+    EXPECT_TRUE(mayInclude("client/window/remote_window.h", "desktop/tiles/glance_tile.h"));
+    EXPECT_FALSE(mayInclude("client/window/remote_window.h", "desktop/widgets/command.h"));
+    EXPECT_FALSE(mayInclude("client/window/remote_window.h", "console/glance.h"));
+    EXPECT_FALSE(mayInclude("client/client_face.h", "client/window/remote_window.h"));
+    EXPECT_FALSE(mayInclude("client/client_face.h", "desktop/theme/theme.h"));
+}
+
+TEST(Layers, TheSharedLookKnowsNothingOfTheStation) {
+    EXPECT_TRUE(mayInclude("desktop/forms/main_window.h", "desktop/tiles/glance_tile.h"));
+    EXPECT_TRUE(mayInclude("desktop/tiles/glance_tile.h", "desktop/theme/theme.h"));
+    EXPECT_TRUE(mayInclude("desktop/theme/theme.h", "base/colour_mix.h"));
+    EXPECT_FALSE(mayInclude("desktop/theme/theme.h", "desktop/widgets/lamp.h"));
+    EXPECT_FALSE(mayInclude("desktop/tiles/glance_tile.h", "console/glance.h"));
+    EXPECT_FALSE(mayInclude("session/station.h", "desktop/theme/theme.h"));
+}
+
 TEST(Layers, SiblingsOfThePortsKnowPortsAndBase) {
     EXPECT_TRUE(mayInclude("platform/virtual/virtual_clock.h", "platform/clock.h"));
     EXPECT_TRUE(mayInclude("platform/host/posix_files.h", "base/form.h"));

@@ -10,7 +10,7 @@
 #include "console/glance.h"
 #include "desktop/forms/lamp_rows.h"
 #include "desktop/forms/placing.h"
-#include "desktop/widgets/glance_tile.h"
+#include "desktop/tiles/glance_tile.h"
 
 namespace quorrin {
 

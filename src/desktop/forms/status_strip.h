@@ -5,7 +5,7 @@
 #include <QWidget>
 
 #include "console/glance.h"
-#include "desktop/widgets/glance_tile.h"
+#include "desktop/tiles/glance_tile.h"
 
 namespace quorrin {
 

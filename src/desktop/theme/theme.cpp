@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QPalette>
 
-#include "console/colour_mix.h"
+#include "base/colour_mix.h"
 
 namespace quorrin {
 

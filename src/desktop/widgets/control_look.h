@@ -5,7 +5,7 @@
 #include <QFont>
 #include <QPalette>
 
-#include "console/colour_mix.h"
+#include "base/colour_mix.h"
 #include "console/property_bag.h"
 #include "desktop/binding/window_colour.h"
 

@@ -1,4 +1,4 @@
-#include "console/colour_mix.h"
+#include "base/colour_mix.h"
 
 #include <algorithm>
 #include <cmath>

@@ -9,7 +9,7 @@
 #include <QString>
 #include <QWidget>
 
-#include "console/glance.h"
+#include "base/glance.h"
 #include "desktop/theme/icons.h"
 #include "desktop/theme/theme.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/widgets/glance_tile.h"
+#include "desktop/tiles/glance_tile.h"
 
 #include <QEvent>
 #include <QFontMetrics>

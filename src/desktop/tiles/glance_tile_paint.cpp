@@ -2,7 +2,7 @@
 #include <QPainterPath>
 #include <algorithm>
 
-#include "desktop/widgets/glance_tile.h"
+#include "desktop/tiles/glance_tile.h"
 
 namespace quorrin {
 
