@@ -59,6 +59,8 @@ target_compile_definitions(quorrin_skin PUBLIC QT_NO_KEYWORDS)
 # The look that the windows of several programs share.
 quorrin_library(quorrin_look FOLDERS desktop/theme desktop/tiles LINK quorrin_base Qt6::Widgets)
 target_compile_definitions(quorrin_look PUBLIC QT_NO_KEYWORDS)
+# The remote client's window; the client itself wants nothing of Qt.
+quorrin_library(quorrin_client_window FOLDERS client/window LINK quorrin_client quorrin_look Qt6::Widgets)
 # The windows: widgets bound to the forms, nothing decided in them.
 quorrin_library(quorrin_desktop FOLDERS desktop desktop/binding desktop/forms desktop/views desktop/widgets
     LINK quorrin_look quorrin_skin quorrin_station quorrin_base Qt6::Widgets)

@@ -30,11 +30,13 @@ RemoteOptions parseRemoteOptions(const std::vector<std::string>& arguments) {
 }
 
 std::string remoteUsage() {
-    return "quorrin-remote --host HOST --script FILE | --help | --version\n"
+    return "quorrin-remote [--host HOST] | --host HOST --script FILE | --help | --version\n"
            "\n"
            "A client for the six remote channels of a Quorrin station.\n"
            "\n"
-           "--host    name or IPv4 address of the station's machine\n"
+           "Without a script it opens a window to drive the robot with keys or a joystick.\n"
+           "\n"
+           "--host    name or IPv4 address of the station's machine; the window begins with 127.0.0.1\n"
            "--script  does what the file says and ends; needs no display\n"
            "\n"
            "A script has one verb a line; lines that begin with # are comments:\n"

@@ -28,7 +28,7 @@ QSlider::sub-page:horizontal { background: {accent}; border-radius: 2px; }
 QSlider::handle:horizontal { background: {accent}; border: 2px solid {surface}; width: 14px; margin: -8px 0; border-radius: 9px; }
 QSlider::groove:vertical { background: {outline}; width: 4px; border-radius: 2px; }
 QSlider::handle:vertical { background: {accent}; border: 2px solid {surface}; height: 14px; margin: 0 -8px; border-radius: 9px; }
-QSlider::handle:horizontal:disabled, QSlider::sub-page:horizontal:disabled { background: {outline}; }
+QSlider::handle:disabled, QSlider::sub-page:horizontal:disabled { background: {outline}; }
 QScrollBar { background: {field}; border: none; margin: 0; }
 QScrollBar:horizontal { height: 12px; }
 QScrollBar:vertical { width: 12px; }

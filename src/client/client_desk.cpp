@@ -1,0 +1,82 @@
+#include "client/client_desk.h"
+
+#include <utility>
+
+namespace quorrin {
+
+namespace {
+
+constexpr std::int64_t kLookMs = 20;
+
+}  // namespace
+
+std::string hostIn(const std::string& typed) {
+    const char* const blanks = " \t\r\n";
+    const std::size_t first = typed.find_first_not_of(blanks);
+    if (first == std::string::npos) return "";
+    return typed.substr(first, typed.find_last_not_of(blanks) - first + 1);
+}
+
+ClientDesk::ClientDesk(Clock& clock, Calls& calls, Joysticks& joysticks, const std::string& host)
+    : clock_(clock), calls_(calls), stick_(clock, joysticks), end_(clock, [this] { lookForTheEnd(); }) {
+    end_.setInterval(kLookMs);
+    open(host);
+    stick_.onState = [this](const JoystickState& state) {
+        if (ended_) return;
+        driver().setStick(state);
+        changed();
+    };
+    stick_.onLost = [this] {
+        driver().stickLost();
+        forgetKeys();
+        changed();
+    };
+    stick_.start();
+}
+
+void ClientDesk::open(const std::string& host) {
+    session_ = std::make_unique<Session>(clock_, calls_, host);
+    session_->driver.onChange.add([this] { changed(); });
+}
+
+void ClientDesk::connect(const std::string& host) {
+    const std::string name = hostIn(host);
+    if (name.empty() || ended_) return;
+    if (name != link().host()) {
+        disconnect();
+        open(name);
+        forgetKeys();
+    }
+    session_->link.start();
+    changed();
+}
+
+void ClientDesk::disconnect() {
+    driver().quit();
+    session_->link.stop();
+    changed();
+}
+
+void ClientDesk::end(std::function<void()> ended) {
+    if (ended_) return;
+    ended_ = std::move(ended);
+    disconnect();
+    endAtMs_ = clock_.nowMs() + kEndMs;
+    end_.setEnabled(true);
+}
+
+void ClientDesk::lookForTheEnd() {
+    if (calls_.lingering() && clock_.nowMs() < endAtMs_) return;
+    end_.setEnabled(false);
+    ended_();
+}
+
+void ClientDesk::changed() const {
+    if (onChange) onChange();
+}
+
+void ClientDesk::forgetKeys() const {
+    if (onKeysForgotten) onKeysForgotten();
+}
+
+}  // namespace quorrin

@@ -1,0 +1,59 @@
+#include "client/window/key_watch.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QSlider>
+#include <map>
+
+namespace quorrin {
+
+bool HeldKeys::*heldKeyOf(int keyCode) {
+    static const std::map<int, bool HeldKeys::*> kKeys = {
+        {Qt::Key_Up, &HeldKeys::forward},  {Qt::Key_Down, &HeldKeys::brake},
+        {Qt::Key_Left, &HeldKeys::left},   {Qt::Key_Right, &HeldKeys::right},
+        {Qt::Key_W, &HeldKeys::headUp},    {Qt::Key_S, &HeldKeys::headDown},
+        {Qt::Key_A, &HeldKeys::headLeft},  {Qt::Key_D, &HeldKeys::headRight},
+        {Qt::Key_E, &HeldKeys::mouthOpen}, {Qt::Key_Q, &HeldKeys::mouthClose},
+    };
+    const auto found = kKeys.find(keyCode);
+    return found == kKeys.end() ? nullptr : found->second;
+}
+
+KeyWatch::KeyWatch(QWidget& window) : QObject(&window), window_(window) {
+    qApp->installEventFilter(this);
+}
+
+void KeyWatch::forget() {
+    held_.clear();
+}
+
+HeldKeys KeyWatch::held() const {
+    HeldKeys keys;
+    for (const int code : held_) keys.*heldKeyOf(code) = true;
+    return keys;
+}
+
+bool KeyWatch::takes(const QWidget& widget, const QKeyEvent& event) const {
+    if (heldKeyOf(event.key()) == nullptr || qobject_cast<const QLineEdit*>(&widget) != nullptr) return false;
+    constexpr auto kNotOurs = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if ((event.modifiers() & kNotOurs) != 0) return false;
+    const bool arrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
+    return !(arrow && qobject_cast<const QSlider*>(&widget) != nullptr);
+}
+
+bool KeyWatch::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
+    auto* const widget = qobject_cast<QWidget*>(watched);
+    if (widget == nullptr || widget->window() != &window_) return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (event->type() == QEvent::KeyPress) {
+        if (!takes(*widget, key)) return false;
+        if (!key.isAutoRepeat() && held_.insert(key.key()).second && onChange) onChange(held());
+        return true;
+    }
+    if (held_.count(key.key()) == 0) return false;
+    if (!key.isAutoRepeat() && held_.erase(key.key()) != 0 && onChange) onChange(held());
+    return true;
+}
+
+}  // namespace quorrin
