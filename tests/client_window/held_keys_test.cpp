@@ -107,6 +107,30 @@ TEST_F(HeldKeysTest, AKeyThatIsStillDownWhenTheFocusIsBackDrivesOnlyOncePressedA
     EXPECT_EQ(values().gasLevel, 8500);
 }
 
+TEST_F(HeldKeysTest, ARepeatThatIsNotMarkedAsOneDoesNotBringAForgottenKeyBack) {
+    openConnected();
+    const auto send = [this](QEvent::Type type, quint64 ms) {
+        QKeyEvent event(type, Qt::Key_Up, Qt::NoModifier);
+        event.setTimestamp(ms);
+        QCoreApplication::sendEvent(&focused(), &event);
+        settle();
+    };
+    send(QEvent::KeyPress, 1000);
+    ASSERT_EQ(values().gasLevel, 8500);
+    QWidget other;
+    other.show();
+    activate(other);
+    activate(*window);
+    for (const quint64 ms : {2000, 2040, 2080}) {
+        send(QEvent::KeyRelease, ms);
+        send(QEvent::KeyPress, ms);
+    }
+    EXPECT_EQ(values().gasLevel, 10000);
+    send(QEvent::KeyRelease, 3000);
+    send(QEvent::KeyPress, 3100);
+    EXPECT_EQ(values().gasLevel, 8500);
+}
+
 TEST_F(HeldKeysTest, AClickOnASliderLeavesTheArrowKeysWithTheRobot) {
     openConnected();
     click("headLeftRight");

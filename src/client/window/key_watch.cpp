@@ -7,6 +7,10 @@
 
 namespace quorrin {
 
+namespace {
+constexpr quint64 kOneMomentMs = 1;
+}
+
 bool HeldKeys::*heldKeyOf(int keyCode) {
     static const std::map<int, bool HeldKeys::*> kKeys = {
         {Qt::Key_Up, &HeldKeys::forward},  {Qt::Key_Down, &HeldKeys::brake},
@@ -24,7 +28,25 @@ KeyWatch::KeyWatch(QWidget& window) : QObject(&window), window_(window) {
 }
 
 void KeyWatch::forget() {
+    forgotten_.insert(held_.begin(), held_.end());
     held_.clear();
+}
+
+void KeyWatch::pressed(const QKeyEvent& key) {
+    if (key.isAutoRepeat()) return;
+    const auto before = releasedMs_.find(key.key());
+    // Without a time it was made by a program.
+    const bool repeat = before != releasedMs_.end() && before->second != 0 &&
+                        key.timestamp() - before->second <= kOneMomentMs;
+    if (repeat && forgotten_.count(key.key()) != 0) return;
+    forgotten_.erase(key.key());
+    if (held_.insert(key.key()).second && onChange) onChange(held());
+}
+
+void KeyWatch::released(const QKeyEvent& key) {
+    if (key.isAutoRepeat()) return;
+    releasedMs_[key.key()] = key.timestamp();
+    if (held_.erase(key.key()) != 0 && onChange) onChange(held());
 }
 
 HeldKeys KeyWatch::held() const {
@@ -48,11 +70,11 @@ bool KeyWatch::eventFilter(QObject* watched, QEvent* event) {
     const auto& key = *static_cast<QKeyEvent*>(event);
     if (event->type() == QEvent::KeyPress) {
         if (!takes(*widget, key)) return false;
-        if (!key.isAutoRepeat() && held_.insert(key.key()).second && onChange) onChange(held());
+        pressed(key);
         return true;
     }
-    if (held_.count(key.key()) == 0) return false;
-    if (!key.isAutoRepeat() && held_.erase(key.key()) != 0 && onChange) onChange(held());
+    if (held_.count(key.key()) == 0 && forgotten_.count(key.key()) == 0) return false;
+    released(key);
     return true;
 }
 

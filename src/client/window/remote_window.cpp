@@ -57,15 +57,6 @@ HeldKeys both(HeldKeys keys, const HeldKeys& more) {
     return keys;
 }
 
-// A new caption; the toolkit takes the shortcut away with the old one.
-void say(QAbstractButton& button, const QString& caption) {
-    if (button.text() == caption) return;
-    const QKeySequence keys = button.shortcut();
-    button.setText(caption);
-    button.setShortcut(keys);
-    button.setAccessibleName(caption);
-}
-
 }  // namespace
 
 RemoteWindow::RemoteWindow(ClientDesk& desk, Clock& clock, std::function<void()> ended)
@@ -169,7 +160,7 @@ QWidget* RemoteWindow::connections() {
     card->column().setSpacing(currentTheme().gap);
     for (const RemoteChannel channel : kRemoteChannels) {
         auto* const tile =
-            new GlanceTile(GlanceTile::Kind::small, pictureOf(channel), inQt(channelCaption(channel)));
+            new GlanceTile(GlanceTile::Kind::slim, pictureOf(channel), inQt(channelCaption(channel)));
         tile->setObjectName(QStringLiteral("channel.") + inQt(std::string(nameOf(channel))));
         card->column().addWidget(tile);
         channels_[static_cast<std::size_t>(channel)] = tile;
@@ -269,7 +260,8 @@ void RemoteWindow::refresh() {
     head_->show(face);
     caps_.setEnabled(face.canDrive);
     host_->setEnabled(!face.started);
-    say(*connect_, inQt(face.connectCaption));
+    connect_->setText(inQt(face.connectCaption));
+    connect_->setAccessibleName(connect_->text());
     connect_->setIcon(themedIcon(face.started ? IconName::networkOff : IconName::network));
     mode_->setEnabled(face.canDrive);
     release_->setEnabled(face.canRelease);

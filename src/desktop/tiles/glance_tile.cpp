@@ -71,7 +71,7 @@ int GlanceTile::blockWidth(double scale) const {
 }
 
 int GlanceTile::detailLines() const {
-    return kind_ == Kind::large ? 3 : 2;
+    return kind_ == Kind::large ? 3 : kind_ == Kind::small ? 2 : 1;
 }
 
 QSize GlanceTile::sizeHint() const {

@@ -17,7 +17,8 @@ namespace quorrin {
 
 class GlanceTile : public QWidget {
   public:
-    enum class Kind { small, large };
+    // A slim one has room for a single line of detail.
+    enum class Kind { slim, small, large };
 
     GlanceTile(Kind kind, IconName picture, const QString& caption, QWidget* parent = nullptr);
 
