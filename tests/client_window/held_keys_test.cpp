@@ -107,28 +107,57 @@ TEST_F(HeldKeysTest, AKeyThatIsStillDownWhenTheFocusIsBackDrivesOnlyOncePressedA
     EXPECT_EQ(values().gasLevel, 8500);
 }
 
-TEST_F(HeldKeysTest, ARepeatThatIsNotMarkedAsOneDoesNotBringAForgottenKeyBack) {
-    openConnected();
-    const auto send = [this](QEvent::Type type, quint64 ms) {
+// Key events with the window system's time, none of them marked as a repeat.
+class UnmarkedRepeats : public RemoteWindowBench {
+  protected:
+    void send(QEvent::Type type, quint64 ms) {
         QKeyEvent event(type, Qt::Key_Up, Qt::NoModifier);
         event.setTimestamp(ms);
         QCoreApplication::sendEvent(&focused(), &event);
         settle();
-    };
+    }
+    void repeats() {
+        for (const quint64 ms : {2000, 2040, 2080}) {
+            send(QEvent::KeyRelease, ms);
+            bench.run(KeyWatch::kReleaseMs - 1);
+            send(QEvent::KeyPress, ms);
+            bench.run(20);
+        }
+    }
+};
+
+TEST_F(UnmarkedRepeats, LetNoKeyGo) {
+    openConnected();
     send(QEvent::KeyPress, 1000);
-    ASSERT_EQ(values().gasLevel, 8500);
+    repeats();
+    after(500);
+    EXPECT_LE(values().gasLevel, 4000);
+    send(QEvent::KeyRelease, 3000);
+    after(KeyWatch::kReleaseMs);
+    EXPECT_EQ(values().gasLevel, 10000);
+}
+
+TEST_F(UnmarkedRepeats, DoNotBringAForgottenKeyBack) {
+    openConnected();
+    send(QEvent::KeyPress, 1000);
     QWidget other;
     other.show();
     activate(other);
     activate(*window);
-    for (const quint64 ms : {2000, 2040, 2080}) {
-        send(QEvent::KeyRelease, ms);
-        send(QEvent::KeyPress, ms);
-    }
+    repeats();
     EXPECT_EQ(values().gasLevel, 10000);
     send(QEvent::KeyRelease, 3000);
     send(QEvent::KeyPress, 3100);
     EXPECT_EQ(values().gasLevel, 8500);
+}
+
+TEST_F(UnmarkedRepeats, AreNotTheSecondOfTwoQuickPresses) {
+    openConnected();
+    send(QEvent::KeyPress, 1000);
+    after(300);
+    send(QEvent::KeyRelease, 1300);
+    send(QEvent::KeyPress, 1305);
+    EXPECT_EQ(values().gasLevel, 8500) << "begun anew";
 }
 
 TEST_F(HeldKeysTest, AClickOnASliderLeavesTheArrowKeysWithTheRobot) {

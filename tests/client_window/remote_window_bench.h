@@ -69,6 +69,8 @@ class RemoteWindowBench : public testing::Test {
     void up(int code) {
         QTest::keyRelease(&focused(), static_cast<Qt::Key>(code));
         settle();
+        bench.run(KeyWatch::kReleaseMs);
+        settle();
     }
     // One repeat of a key that is held: up and down again, marked as such.
     void repeat(int code) {

@@ -23,30 +23,51 @@ bool HeldKeys::*heldKeyOf(int keyCode) {
     return found == kKeys.end() ? nullptr : found->second;
 }
 
-KeyWatch::KeyWatch(QWidget& window) : QObject(&window), window_(window) {
+KeyWatch::KeyWatch(QWidget& window, Clock& clock)
+    : QObject(&window), window_(window), release_(clock, [this] { letGo(); }) {
+    release_.setPeriodic(false);
+    release_.setInterval(kReleaseMs);
     qApp->installEventFilter(this);
 }
 
 void KeyWatch::forget() {
     forgotten_.insert(held_.begin(), held_.end());
     held_.clear();
+    leaving_.clear();
+}
+
+bool KeyWatch::isRepeat(const QKeyEvent& press) const {
+    const auto before = releasedMs_.find(press.key());
+    // Without a time it was made by a program.
+    return before != releasedMs_.end() && before->second != 0 &&
+           press.timestamp() - before->second <= kOneMomentMs;
 }
 
 void KeyWatch::pressed(const QKeyEvent& key) {
+    const int code = key.key();
     if (key.isAutoRepeat()) return;
-    const auto before = releasedMs_.find(key.key());
-    // Without a time it was made by a program.
-    const bool repeat = before != releasedMs_.end() && before->second != 0 &&
-                        key.timestamp() - before->second <= kOneMomentMs;
-    if (repeat && forgotten_.count(key.key()) != 0) return;
-    forgotten_.erase(key.key());
-    if (held_.insert(key.key()).second && onChange) onChange(held());
+    if (isRepeat(key)) {
+        leaving_.erase(code);
+        return;
+    }
+    if (leaving_.count(code) != 0) letGo();
+    forgotten_.erase(code);
+    if (held_.insert(code).second && onChange) onChange(held());
 }
 
 void KeyWatch::released(const QKeyEvent& key) {
     if (key.isAutoRepeat()) return;
     releasedMs_[key.key()] = key.timestamp();
-    if (held_.erase(key.key()) != 0 && onChange) onChange(held());
+    if (held_.count(key.key()) == 0) return;
+    leaving_.insert(key.key());
+    release_.setEnabled(true);
+}
+
+void KeyWatch::letGo() {
+    if (leaving_.empty()) return;
+    for (const int code : leaving_) held_.erase(code);
+    leaving_.clear();
+    if (onChange) onChange(held());
 }
 
 HeldKeys KeyWatch::held() const {

@@ -5,7 +5,8 @@
 // has come up; the keyboard's own repeat of it is nobody's.
 //
 // X tells a repeat as a release and a press of one moment. On a busy machine Qt may see the release alone and
-// take both for real, so a press of the same moment as the release before it is a repeat here, too.
+// take both for real. So a release counts only kReleaseMs after it came, unless a press of the same moment
+// shows that it was a repeat.
 #pragma once
 
 #include <QKeyEvent>
@@ -15,12 +16,15 @@
 #include <set>
 
 #include "client/drive_keys.h"
+#include "platform/timer_mm.h"
 
 namespace quorrin {
 
 class KeyWatch : public QObject {
   public:
-    explicit KeyWatch(QWidget& window);
+    static constexpr std::int64_t kReleaseMs = 20;
+
+    KeyWatch(QWidget& window, Clock& clock);
 
     void forget();
     HeldKeys held() const;
@@ -37,10 +41,15 @@ class KeyWatch : public QObject {
     void pressed(const QKeyEvent& key);
     void released(const QKeyEvent& key);
 
-    std::set<int> held_;  // key codes
+    void letGo();
+    bool isRepeat(const QKeyEvent& press) const;
+
+    std::set<int> held_;     // key codes
+    std::set<int> leaving_;  // those of them whose release has come
     // Those that were held when they were forgotten.
     std::set<int> forgotten_;
     std::map<int, quint64> releasedMs_;  // by the window system's clock
+    TimerMM release_;
 };
 
 // Which of the held keys that key code is; null for none.

@@ -63,7 +63,7 @@ RemoteWindow::RemoteWindow(ClientDesk& desk, Clock& clock, std::function<void()>
     : desk_(desk),
       clock_(clock),
       ended_(std::move(ended)),
-      keys_(new KeyWatch(*this)),
+      keys_(new KeyWatch(*this, clock)),
       drive_(new DriveCard(caps_)),
       head_(new HeadCard(caps_)) {
     const Theme& theme = currentTheme();
