@@ -18,16 +18,20 @@ std::string hostIn(const std::string& typed) {
 }
 
 ClientDesk::ClientDesk(Clock& clock, Calls& calls, Joysticks& joysticks, const std::string& host)
-    : clock_(clock), calls_(calls), stick_(clock, joysticks), end_(clock, [this] { lookForTheEnd(); }) {
+    : clock_(clock),
+      calls_(calls),
+      stick_(clock, joysticks),
+      leave_(clock, [this] { goOnLeaving(); }),
+      end_(clock, [this] { lookForTheEnd(); }) {
+    leave_.setInterval(kLookMs);
     end_.setInterval(kLookMs);
     open(host);
     stick_.onState = [this](const JoystickState& state) {
-        if (ended_) return;
-        driver().setStick(state);
+        drive([&state](RemoteDriver& driver) { driver.setStick(state); });
         changed();
     };
     stick_.onLost = [this] {
-        driver().stickLost();
+        drive([](RemoteDriver& driver) { driver.stickLost(); });
         forgetKeys();
         changed();
     };
@@ -39,30 +43,58 @@ void ClientDesk::open(const std::string& host) {
     session_->driver.onChange.add([this] { changed(); });
 }
 
+void ClientDesk::drive(const std::function<void(RemoteDriver&)>& deed) {
+    if (!leaving_ && !ended_) deed(session_->driver);
+}
+
 void ClientDesk::connect(const std::string& host) {
     const std::string name = hostIn(host);
     if (name.empty() || ended_) return;
-    if (name != link().host()) {
-        disconnect();
-        open(name);
-        forgetKeys();
+    if (name == link().host() && !leaving_) {
+        session_->link.start();
+        changed();
+        return;
     }
-    session_->link.start();
-    changed();
+    leave([this, name] {
+        open(name);
+        session_->link.start();
+    });
 }
 
 void ClientDesk::disconnect() {
-    driver().quit();
+    leave({});
+}
+
+void ClientDesk::leave(std::function<void()> then) {
+    afterwards_ = std::move(then);
+    if (!leaving_) {
+        leaving_ = true;
+        session_->driver.quit();
+        leave_.setEnabled(true);
+    }
+    goOnLeaving();
+    changed();
+}
+
+void ClientDesk::goOnLeaving() {
+    if (!leaving_ || driver().releasing()) return;
+    leave_.setEnabled(false);
     session_->link.stop();
+    leaving_ = false;
+    // What went on with keys and stick meanwhile was not heard.
+    session_->driver.stickLost();
+    forgetKeys();
+    if (const auto then = std::exchange(afterwards_, {})) then();
     changed();
 }
 
 void ClientDesk::end(std::function<void()> ended) {
     if (ended_) return;
     ended_ = std::move(ended);
-    disconnect();
-    endAtMs_ = clock_.nowMs() + kEndMs;
-    end_.setEnabled(true);
+    leave([this] {
+        endAtMs_ = clock_.nowMs() + kEndMs;
+        end_.setEnabled(true);
+    });
 }
 
 void ClientDesk::lookForTheEnd() {

@@ -4,6 +4,9 @@
 // Another station means connections and a driver of their own: the robot of the one before is let go and its
 // connections are closed. Where that cannot be said to the station any more, nothing is.
 //
+// Letting go may take a second (drive_sender.h). While the desk is leaving() a station for that, nothing
+// drives: a command would call it off.
+//
 // Clock, calls and joysticks must outlive it. One thread; deeds come in turn, as events of the clock. Errors:
 // none.
 #pragma once
@@ -29,7 +32,6 @@ class ClientDesk {
     ClientDesk& operator=(const ClientDesk&) = delete;
 
     const RemoteLink& link() const { return session_->link; }
-    RemoteDriver& driver() { return session_->driver; }
     const RemoteDriver& driver() const { return session_->driver; }
     const StickWatch& stick() const { return stick_; }
 
@@ -37,17 +39,23 @@ class ClientDesk {
     void connect(const std::string& host);
     // Lets the robot go, then closes all six.
     void disconnect();
-    // Connected, or trying to be.
-    bool started() const { return link().started(); }
+    // Connected, or trying to be, and not about to end that.
+    bool started() const { return link().started() && !leaving_; }
+    bool leaving() const { return leaving_; }
+    bool canDrive() const { return driver().connected() && !leaving_; }
 
+    // What keys, sliders and buttons do.
+    void drive(const std::function<void(RemoteDriver&)>& deed);
     // The focus was lost: neutral.
-    void standStill() { driver().standStill(); }
+    void standStill() {
+        drive([](RemoteDriver& driver) { driver.standStill(); });
+    }
     // Lets go and closes; `ended` is called once, when the last words are out or had their time.
     void end(std::function<void()> ended);
 
     // Anything may look different now.
     std::function<void()> onChange;
-    // What is held down counts for nothing from now on: the stick was lost, or the station is another one.
+    // What is held down counts for nothing from now on: the stick was lost, or the station was left.
     std::function<void()> onKeysForgotten;
 
   private:
@@ -59,6 +67,9 @@ class ClientDesk {
     };
 
     void open(const std::string& host);
+    // Lets go, closes, and then.
+    void leave(std::function<void()> then);
+    void goOnLeaving();
     void changed() const;
     void forgetKeys() const;
     void lookForTheEnd();
@@ -67,6 +78,9 @@ class ClientDesk {
     Calls& calls_;
     std::unique_ptr<Session> session_;
     StickWatch stick_;
+    bool leaving_ = false;
+    TimerMM leave_;
+    std::function<void()> afterwards_;
     TimerMM end_;
     std::int64_t endAtMs_ = 0;
     std::function<void()> ended_;

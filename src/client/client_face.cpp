@@ -40,6 +40,7 @@ Glance holderGlance(const RemoteDriver& driver) {
                 Tone::bad};
     }
     if (driver.holds()) {
+        if (driver.releasing()) return {"you", "It is being let go.", Tone::busy};
         if (driver.waitsForRest())
             return {"you", "Let keys and stick go before you drive on.", Tone::warning};
         if (mode != "JOY") return {"you", "The robot is not in JOY yet.", Tone::busy};
@@ -72,6 +73,7 @@ Glance positionGlance(const RemoteLink& link) {
 
 std::string drivingText(const ClientDesk& desk, bool arrowsElsewhere) {
     const RemoteDriver& driver = desk.driver();
+    if (desk.leaving()) return "Letting the robot go.";
     if (!driver.connected()) return desk.started() ? "Waiting for the station." : "Connect, to drive.";
     if (arrowsElsewhere) return "The arrow keys move the slider. Esc gives them to the robot.";
     if (driver.waitsForRest()) return "Let all keys and the stick go first.";
@@ -118,8 +120,8 @@ ClientFace faceOf(const ClientDesk& desk, bool arrowsElsewhere) {
     face.releaseText = driver.releaseText();
     face.drivingText = drivingText(desk, arrowsElsewhere);
     face.stickText = stickText(desk);
-    face.canDrive = driver.connected();
-    face.canRelease = driver.connected() && driver.holds();
+    face.canDrive = desk.canDrive();
+    face.canRelease = face.canDrive && driver.holds();
     face.levels = driver.levels();
     face.gas = static_cast<double>(kNoGas - face.levels.gas) / kNoGas;
     face.steering = std::clamp(static_cast<double>(face.levels.steering - kStraight) / kStraight, -1.0, 1.0);

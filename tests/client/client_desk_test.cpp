@@ -15,7 +15,7 @@ struct ClientDeskTest : DeskBench, testing::Test {
         gas.slider = 4000;
     }
     void driveOn() {
-        desk.driver().setKeys(forward);
+        setKeys(forward);
         run(500);
     }
     void stickDrives() {
@@ -28,10 +28,11 @@ struct ClientDeskTest : DeskBench, testing::Test {
     }
     int ends() {
         desk.end([this] { ++ended_; });
-        run(ClientDesk::kEndMs + 100);
+        run(kLetGoMs + ClientDesk::kEndMs + 100);
         return ended_;
     }
 
+    static constexpr std::int64_t kLetGoMs = DriveSender::kClaimMs + 100;
     HeldKeys forward;
     JoystickState takeOver;
     JoystickState gas;
@@ -72,17 +73,66 @@ TEST_F(ClientDeskTest, DisconnectingLetsTheRobotGoFirst) {
     driveOn();
     EXPECT_TRUE(values.manualPanelActive);
     desk.disconnect();
-    run(100);
+    run(10);
     EXPECT_EQ(values.gasLevel, 10000);
+    run(kLetGoMs);
     EXPECT_FALSE(values.manualPanelActive);
     EXPECT_EQ(gui.ConnectionList.count(), 0U);
+}
+
+TEST_F(ClientDeskTest, WhileItIsLeavingNothingDrivesAndNothingCanBeDriven) {
+    connectAll();
+    setKeys(forward);
+    run(100);
+    desk.disconnect();
+    ASSERT_TRUE(desk.leaving()) << "the claim is too young to be let go";
+    EXPECT_FALSE(desk.started());
+    EXPECT_FALSE(desk.canDrive());
+    setKeys({});
+    setKeys(forward);
+    run(100);
+    EXPECT_EQ(values.gasLevel, 10000);
+    run(kLetGoMs);
+    EXPECT_FALSE(desk.leaving());
+    EXPECT_FALSE(values.manualPanelActive);
+}
+
+TEST_F(ClientDeskTest, ConnectingWhileItIsLeavingComesAfterTheRobotWasLetGo) {
+    connectAll();
+    setKeys(forward);
+    run(100);
+    desk.disconnect();
+    desk.connect("station");
+    run(kLetGoMs + 2000);
+    EXPECT_FALSE(values.manualPanelActive);
+    EXPECT_TRUE(desk.link().allConnected());
+}
+
+TEST_F(ClientDeskTest, AKeyThatWasLetGoWhileItLeftDrivesWhenPressedAnew) {
+    connectAll();
+    setKeys(forward);
+    run(100);
+    desk.disconnect();
+    setKeys({});
+    run(kLetGoMs);
+    connectAll();
+    setKeys(forward);
+    run(10);
+    EXPECT_EQ(values.gasLevel, 8500);
+}
+
+TEST_F(ClientDeskTest, WithoutAHoldItDisconnectsAtOnce) {
+    connectAll();
+    desk.disconnect();
+    EXPECT_FALSE(desk.leaving());
+    EXPECT_FALSE(desk.link().started());
 }
 
 TEST_F(ClientDeskTest, AnotherStationLetsTheRobotOfTheFirstGo) {
     connectAll();
     driveOn();
     desk.connect("other");
-    run(100);
+    run(kLetGoMs);
     EXPECT_EQ(values.gasLevel, 10000);
     EXPECT_FALSE(values.manualPanelActive);
     EXPECT_EQ(desk.link().host(), "other");
@@ -95,8 +145,8 @@ TEST_F(ClientDeskTest, AnotherStationForgetsWhatIsHeldDown) {
     int forgotten = 0;
     desk.onKeysForgotten = [&] { ++forgotten; };
     desk.connect("other");
+    run(kLetGoMs + 2000);
     EXPECT_EQ(forgotten, 1);
-    run(2000);
     EXPECT_EQ(values.gasLevel, 10000);
 }
 

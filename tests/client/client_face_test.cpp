@@ -22,7 +22,7 @@ struct ClientFaceTest : DeskBench, testing::Test {
     void hold() {
         connectAll();
         modeBecomes("wondering");
-        desk.driver().setKeys(forward);
+        setKeys(forward);
         run(200);
         modeBecomes("JOY");
     }
@@ -129,7 +129,7 @@ TEST_F(ClientFaceTest, TheModeIsUnknownAsSoonAsTheConnectionIsGone) {
 TEST_F(ClientFaceTest, ThisClientHoldsFromItsFirstCommandOn) {
     connectAll();
     modeBecomes("IDLE");
-    desk.driver().setKeys(forward);
+    setKeys(forward);
     run(10);
     EXPECT_EQ(face().holder.word, "you");
     EXPECT_EQ(face().holder.tone, Tone::busy) << "not in JOY yet";
@@ -139,9 +139,21 @@ TEST_F(ClientFaceTest, ThisClientHoldsFromItsFirstCommandOn) {
 TEST_F(ClientFaceTest, HoldingAndDrivingIsToldFromHoldingAndStanding) {
     hold();
     EXPECT_EQ(face().holder.detail, "You drive.");
-    desk.driver().setKeys({});
+    setKeys({});
     EXPECT_EQ(face().holder.detail, "The robot stands and waits.");
     EXPECT_EQ(face().holder.tone, Tone::good);
+}
+
+TEST_F(ClientFaceTest, AReleaseUnderWayIsToldOf) {
+    connectAll();
+    setKeys(forward);
+    run(100);
+    desk.drive([](RemoteDriver& driver) { driver.release(); });
+    EXPECT_EQ(face().holder.detail, "It is being let go.");
+    desk.disconnect();
+    EXPECT_EQ(face().drivingText, "Letting the robot go.");
+    EXPECT_EQ(face().connectCaption, "Connect");
+    EXPECT_FALSE(face().canDrive);
 }
 
 TEST_F(ClientFaceTest, SomebodyElseHoldsAJoyThatThisClientDoesNot) {
@@ -257,12 +269,12 @@ TEST_F(ClientFaceTest, LevelsAreTheOnesThatWentOut) {
     EXPECT_EQ(face().gas, 0.25);
     HeldKeys left;
     left.left = true;
-    desk.driver().setKeys(left);
+    setKeys(left);
     EXPECT_EQ(face().steeringText, "10 % left");
     EXPECT_EQ(face().gasText, "0 %");
     HeldKeys brake;
     brake.brake = true;
-    desk.driver().setKeys(brake);
+    setKeys(brake);
     EXPECT_TRUE(face().brake);
     EXPECT_EQ(face().steeringText, "straight");
 }
@@ -271,7 +283,7 @@ TEST_F(ClientFaceTest, FullLeftReadsAsAllOfIt) {
     connectAll();
     HeldKeys left;
     left.left = true;
-    desk.driver().setKeys(left);
+    setKeys(left);
     run(3000);
     EXPECT_EQ(face().steeringText, "100 % left");
 }

@@ -131,7 +131,7 @@ TEST_F(UnmarkedRepeats, LetNoKeyGo) {
     send(QEvent::KeyPress, 1000);
     repeats();
     after(500);
-    EXPECT_LE(values().gasLevel, 4000);
+    EXPECT_EQ(values().gasLevel, 5500) << "six steps of the driver's own";
     send(QEvent::KeyRelease, 3000);
     after(KeyWatch::kReleaseMs);
     EXPECT_EQ(values().gasLevel, 10000);

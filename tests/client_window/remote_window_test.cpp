@@ -74,6 +74,7 @@ TEST_F(RemoteWindowTest, LettingGoSendsNeutralAndGivesTheRobotBack) {
     after(300);
     key(Qt::Key_F6);
     EXPECT_EQ(values().gasLevel, 10000);
+    after(DriveSender::kClaimMs);
     EXPECT_FALSE(values().manualPanelActive);
 }
 
@@ -155,7 +156,7 @@ TEST_F(RemoteWindowTest, ClosingSendsNeutralThenClosAndEndsOnceAllIsOut) {
     window->close();
     EXPECT_EQ(ended, 0);
     settle();
-    bench.run(ClientDesk::kEndMs);
+    bench.run(DriveSender::kClaimMs + ClientDesk::kEndMs);
     EXPECT_EQ(ended, 1);
     EXPECT_EQ(values().gasLevel, 10000);
     EXPECT_FALSE(values().manualPanelActive);

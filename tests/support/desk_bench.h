@@ -26,6 +26,9 @@ struct DeskBench : StationBench {
         gui.txtRobotStatus.setText(mode);
         run(10);
     }
+    void setKeys(const HeldKeys& keys) {
+        desk.drive([&keys](RemoteDriver& driver) { driver.setKeys(keys); });
+    }
     ClientFace face() const { return faceOf(desk, false); }
 
     VirtualCalls calls{clock, sockets};

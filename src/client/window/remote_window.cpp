@@ -195,21 +195,19 @@ QWidget* RemoteWindow::footer() {
 void RemoteWindow::bindCards() {
     keys_->onChange = [this](const HeldKeys&) { keysChanged(); };
     caps_.onMouse = [this] { keysChanged(); };
-    drive_->onAvoidance = [this](bool on) {
-        act([on](ClientDesk& desk) { desk.driver().setAvoidance(on); });
-    };
+    drive_->onAvoidance = [this](bool on) { drive([on](RemoteDriver& driver) { driver.setAvoidance(on); }); };
     head_->onUpDown = [this](int value) {
-        act([value](ClientDesk& desk) { desk.driver().setHeadUpDown(value); });
+        drive([value](RemoteDriver& driver) { driver.setHeadUpDown(value); });
     };
     head_->onLeftRight = [this](int value) {
-        act([value](ClientDesk& desk) { desk.driver().setHeadLeftRight(value); });
+        drive([value](RemoteDriver& driver) { driver.setHeadLeftRight(value); });
     };
-    head_->onMouth = [this](int value) { act([value](ClientDesk& desk) { desk.driver().setMouth(value); }); };
-    head_->onAhead = [this] { act([](ClientDesk& desk) { desk.driver().centreHead(); }); };
+    head_->onMouth = [this](int value) { drive([value](RemoteDriver& driver) { driver.setMouth(value); }); };
+    head_->onAhead = [this] { drive([](RemoteDriver& driver) { driver.centreHead(); }); };
     QObject::connect(mode_, &QPushButton::clicked, this,
-                     [this] { act([](ClientDesk& desk) { desk.driver().modeKey(); }); });
+                     [this] { drive([](RemoteDriver& driver) { driver.modeKey(); }); });
     QObject::connect(release_, &QPushButton::clicked, this,
-                     [this] { act([](ClientDesk& desk) { desk.driver().release(); }); });
+                     [this] { drive([](RemoteDriver& driver) { driver.release(); }); });
     auto* const back = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     QObject::connect(back, &QShortcut::activated, this,
                      [this] { drive_->setFocus(Qt::ShortcutFocusReason); });
@@ -226,6 +224,10 @@ void RemoteWindow::act(std::function<void(ClientDesk&)> deed) {
     clock_.arrive([&desk = desk_, deed = std::move(deed)] { deed(desk); });
 }
 
+void RemoteWindow::drive(std::function<void(RemoteDriver&)> deed) {
+    act([deed = std::move(deed)](ClientDesk& desk) { desk.drive(deed); });
+}
+
 void RemoteWindow::connectOrNot() {
     if (desk_.started()) {
         act([](ClientDesk& desk) { desk.disconnect(); });
@@ -239,7 +241,7 @@ void RemoteWindow::connectOrNot() {
 void RemoteWindow::keysChanged() {
     const HeldKeys held = keys_->held();
     caps_.light(held);
-    act([keys = both(held, caps_.mouse())](ClientDesk& desk) { desk.driver().setKeys(keys); });
+    drive([keys = both(held, caps_.mouse())](RemoteDriver& driver) { driver.setKeys(keys); });
 }
 
 void RemoteWindow::dropKeys() {

@@ -48,6 +48,7 @@ class RemoteWindow : public QWidget {
     void orderTabs();
     // In turn with everything else that happens.
     void act(std::function<void(ClientDesk&)> deed);
+    void drive(std::function<void(RemoteDriver&)> deed);
     void connectOrNot();
     void keysChanged();
     void dropKeys();
