@@ -207,13 +207,32 @@ void ComboBox::operatorChoose(const std::string& item) {
     if (!usable()) return;
     acts(OperatorAct::Kind::set, item);
     const auto found = std::find(items_.begin(), items_.end(), item);
-    if (found != items_.end()) setIndex(static_cast<int>(found - items_.begin()));
+    if (found == items_.end()) return;
+    setIndex(static_cast<int>(found - items_.begin()));
+    run(onClick);
 }
 
 ListBox::ListBox(Form& form, std::string name) : Control(form, std::move(name)) {}
 
 void ListBox::add(std::string line, int itemData) {
     lines_.emplace_back(std::move(line), itemData);
+    ++revision_;
+    looks();
+}
+
+void ListBox::setLines(std::vector<std::string> lines) {
+    lines_.clear();
+    lines_.reserve(lines.size());
+    for (std::string& line : lines) lines_.emplace_back(std::move(line), 0);
+    selected_ = -1;
+    ++revision_;
+    looks();
+}
+
+void ListBox::select(int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= lines_.size()) index = -1;
+    if (index == selected_) return;
+    selected_ = index;
     looks();
 }
 
@@ -226,6 +245,10 @@ const ListBox::Line& ListBox::at(std::size_t index) const {
 void ListBox::remove(std::size_t index) {
     if (index >= lines_.size()) return;
     lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(index));
+    const int removed = static_cast<int>(index);
+    if (selected_ == removed) selected_ = -1;
+    if (selected_ > removed) --selected_;
+    ++revision_;
     looks();
 }
 

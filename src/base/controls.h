@@ -177,13 +177,16 @@ class ComboBox : public Control {
     // Chooses the entry of that text; a text that is not in the list changes nothing.
     void operatorChoose(const std::string& item);
     std::function<void()> onChange;
+    // The operator has chosen an entry, be it the same one again.
+    std::function<void()> onClick;
 
   private:
     std::vector<std::string> items_;
     int index_ = -1;
 };
 
-// A list of lines, each with a number of its own.
+// A list of lines, each with a number of its own, of which one may be selected. It may be long: what a list
+// shows is replaced as a whole by setLines(), and a view asks for the lines that it draws.
 class ListBox : public Control {
   public:
     ListBox(Form& form, std::string name);
@@ -193,6 +196,14 @@ class ListBox : public Control {
     int itemData(std::size_t index) const { return at(index).second; }
     void add(std::string line, int itemData);
     void remove(std::size_t index);
+    // These lines in place of all others, each with the number 0; none is selected then.
+    void setLines(std::vector<std::string> lines);
+    // The selected line, or -1. It goes with its line, and is nobody's when that is removed.
+    int selected() const { return selected_; }
+    // A line that is not there selects none.
+    void select(int index);
+    // Grows whenever lines come or go, and not when only the selection moves.
+    std::int64_t revision() const { return revision_; }
     // The lines, joined by line feeds.
     std::string valueText() const override;
 
@@ -201,6 +212,8 @@ class ListBox : public Control {
     const Line& at(std::size_t index) const;
 
     std::vector<Line> lines_;
+    int selected_ = -1;
+    std::int64_t revision_ = 0;
 };
 
 // A coloured lamp.

@@ -79,7 +79,13 @@ Glance motionLinkGlance(const PublicValues& values, const frmGUI& gui) {
 }
 
 Glance multimediaLinkGlance(const PublicValues& values, const frmGUI& gui) {
-    if (values.tiLinkUp) return linkThatIsUp(values.tiSilentTicks.value());
+    if (values.tiLinkUp) {
+        Glance up = linkThatIsUp(values.tiSilentTicks.value());
+        // The capture's own place may be folded in.
+        if (up.tone == Tone::good && !gui.lblCaptureNote.caption().empty())
+            up = {up.word, "capture stopped", Tone::warning};
+        return up;
+    }
     if (values.tiWarmupCount > 0) return warmingUp(values.tiWarmupCount.value());
     if (recovering(values, gui))
         return {"lost", "Waiting for the gateway: frame " + of(0, kWarmupFrames), Tone::bad, 0};

@@ -50,6 +50,14 @@ std::string_view betweenUnderscores(std::string_view name) {
 
 }  // namespace
 
+std::string archiveFolder(const std::string& applicationFolder) {
+    return applicationFolder + "/catchdata";
+}
+
+std::string archiveDayFolder(const std::string& applicationFolder, const std::string& day) {
+    return archiveFolder(applicationFolder) + "/" + day;
+}
+
 std::int64_t serialDay(const CivilTime& time) {
     return daysFromCivil(time) + kSerialOf1970;
 }

@@ -18,6 +18,10 @@
 
 namespace quorrin {
 
+// "catchdata" in the application folder, and a day's folder ("yyyy-mm-dd") in it.
+std::string archiveFolder(const std::string& applicationFolder);
+std::string archiveDayFolder(const std::string& applicationFolder, const std::string& day);
+
 std::int64_t serialDay(const CivilTime& time);
 // 0 at midnight, 0.5 at noon.
 double dayFraction(const CivilTime& time);

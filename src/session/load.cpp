@@ -5,7 +5,7 @@
 #include "base/rounding.h"
 #include "console/floor_plan.h"
 #include "console/fold_outs.h"
-#include "platform/civil_time.h"
+#include "imaging/archive_names.h"
 #include "session/main_form.h"
 #include "session/mode_steps.h"
 #include "session/motion_session.h"
@@ -169,17 +169,16 @@ void MainForm::setUpRemoteAndSound() {
 
 // The days of the last year that have a folder in the archive, newest first.
 void MainForm::fillDates() {
-    constexpr int kDaysBack = 365;
-    const std::int64_t today = daysFromCivil(ports_.clock.wallTime());
-    for (int i = 0; i <= kDaysBack; ++i) {
-        const std::string date = isoDate(civilFromDays(today - i));
-        if (ports_.files.folderExists(values_.applicationFolder + "/catchdata/" + date))
-            gui_.cobAvailDate.addItem(date);
-    }
+    const auto hasFolder = [this](const std::string& day) {
+        return ports_.files.folderExists(archiveDayFolder(values_.applicationFolder, day));
+    };
+    for (const std::string& day : archivedDays(ports_.clock.wallTime(), hasFolder))
+        gui_.cobAvailDate.addItem(day);
     for (CommandButton* key :
          {&gui_.cmdPlay, &gui_.cmdPause, &gui_.cmdStopReview, &gui_.cmdForward, &gui_.cmdBackward})
         key->setEnabled(false);
     gui_.fileTolNum = 0;
+    gui_.playingNumber = 0;
     gui_.VideoPlayMode.clear();
 }
 

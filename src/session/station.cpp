@@ -5,6 +5,7 @@
 #include "base/program_error.h"
 #include "console/login.h"
 #include "console/session_paths.h"
+#include "session/archive_rooms.h"
 #include "session/console_rooms.h"
 #include "session/end_task.h"
 #include "session/main_form.h"
@@ -17,6 +18,7 @@ struct Station::Parts {
         : console(ports,
                   {station.values, station.gui, station.controlPanel, station.zoomCamera, station.about},
                   station.seams),
+          archive(ports, station.values, station.gui),
           mainForm(ports, station.values, station.gui, station.controlPanel, station.seams),
           loginLogic(station.login, station.values, ports.files, ports.boxes, ports.folders,
                      {[ports, &station](const std::string& title) {
@@ -32,6 +34,7 @@ struct Station::Parts {
     }
 
     ConsoleRooms console;
+    ArchiveRooms archive;
     MainForm mainForm;
     Login loginLogic;
     std::optional<RemoteRooms> remote;

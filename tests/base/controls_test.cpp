@@ -251,6 +251,81 @@ TEST_F(Controls, ListLinesWithTheirNumbers) {
     EXPECT_THROW(list.itemData(1), ProgramError);
 }
 
+TEST_F(Controls, TellOfAnEntryThatIsChosenOnceMore) {
+    ComboBox combo(form, "combo");
+    combo.addItem("a");
+    combo.addItem("b");
+    int clicks = 0;
+    combo.onClick = [&clicks] { ++clicks; };
+    combo.onChange = counting();
+    form.show();
+    combo.operatorChoose("b");
+    combo.operatorChoose("b");
+    combo.operatorChoose("c");
+    EXPECT_EQ(clicks, 2);
+    EXPECT_EQ(changes, 1);
+    combo.setIndex(0);
+    EXPECT_EQ(clicks, 2);
+    combo.setEnabled(false);
+    combo.operatorChoose("a");
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(Controls, ReplaceAListsLinesAtOnce) {
+    ListBox list(form, "list");
+    list.add("old", 7);
+    list.select(0);
+    list.onLook = [this] { ++looks; };
+    list.setLines({"a", "b", "c"});
+    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(list.valueText(), "a\nb\nc");
+    EXPECT_EQ(list.itemData(2), 0);
+    EXPECT_EQ(list.selected(), -1);
+}
+
+TEST_F(Controls, SelectALineThatIsThereOrNone) {
+    ListBox list(form, "list");
+    list.setLines({"a", "b", "c"});
+    list.onLook = [this] { ++looks; };
+    list.select(2);
+    list.select(2);
+    EXPECT_EQ(list.selected(), 2);
+    EXPECT_EQ(looks, 1);
+    list.select(3);
+    EXPECT_EQ(list.selected(), -1);
+    list.select(1);
+    list.select(-5);
+    EXPECT_EQ(list.selected(), -1);
+}
+
+TEST_F(Controls, KeepALinesSelectionWhenOthersGo) {
+    ListBox list(form, "list");
+    list.setLines({"a", "b", "c"});
+    list.select(1);
+    list.remove(2);
+    EXPECT_EQ(list.selected(), 1);
+    list.remove(0);
+    EXPECT_EQ(list.selected(), 0);
+    list.remove(0);
+    EXPECT_EQ(list.selected(), -1);
+}
+
+TEST_F(Controls, CountAListsChangesOfLinesAlone) {
+    ListBox list(form, "list");
+    const std::int64_t fresh = list.revision();
+    list.add("a", 0);
+    EXPECT_GT(list.revision(), fresh);
+    const std::int64_t added = list.revision();
+    list.select(0);
+    list.setEnabled(false);
+    EXPECT_EQ(list.revision(), added);
+    list.remove(0);
+    EXPECT_GT(list.revision(), added);
+    const std::int64_t removed = list.revision();
+    list.setLines({});
+    EXPECT_GT(list.revision(), removed);
+}
+
 TEST_F(Controls, ShowALampsColourAndAPicturesNumberOrFile) {
     Shape lamp(form, "lamp", rgb(255, 0, 0));
     EXPECT_EQ(lamp.valueText(), "255");

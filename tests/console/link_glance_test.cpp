@@ -38,6 +38,16 @@ TEST_F(LinkGlance, TheMultimediaLinkWarmsUpFrameByFrame) {
     EXPECT_LT(now().multimediaLink.progress, 0);
 }
 
+TEST_F(LinkGlance, ACaptureThatWasStoppedByAFaultShowsWithTheLinkThatIsUp) {
+    bench.startSession();
+    gui.lblCaptureNote.setCaption("Capture stopped: the folder catchdata is missing.");
+    EXPECT_EQ(now().multimediaLink.word, "up");
+    EXPECT_EQ(now().multimediaLink.detail, "capture stopped");
+    EXPECT_EQ(now().multimediaLink.tone, Tone::warning);
+    gui.lblCaptureNote.setCaption("");
+    EXPECT_EQ(now().multimediaLink.tone, Tone::good);
+}
+
 TEST_F(LinkGlance, TheMotionLinkWaitsFromTheStartOfItsGateway) {
     bench.startSession();
     EXPECT_EQ(now().motionLink.word, "closed");

@@ -45,6 +45,20 @@ TEST(MemoryFiles, AFullDiskRefusesEveryWriteAndKeepsTheOldContent) {
     EXPECT_TRUE(files.writeWhole("/a/one", "new"));
 }
 
+TEST(MemoryFiles, AReadOnlyFolderKeepsWhatItHas) {
+    MemoryFiles files;
+    files.put("/a/one", "old");
+    files.setReadOnly("/a");
+    EXPECT_FALSE(files.writeWhole("/a/one", "new"));
+    EXPECT_FALSE(files.writeVolatile("/a/two", "new"));
+    EXPECT_FALSE(files.copy("/a/one", "/a/two"));
+    EXPECT_FALSE(files.createFolder("/a/deeper"));
+    EXPECT_FALSE(files.remove("/a/one"));
+    EXPECT_EQ(files.read("/a/one"), "old");
+    EXPECT_TRUE(files.createFolder("/a"));
+    EXPECT_TRUE(files.createFolder("/b"));
+}
+
 TEST(MemoryFiles, AppendingNeedsAFileAndRoom) {
     MemoryFiles files;
     EXPECT_FALSE(files.append("/a/one", "x"));

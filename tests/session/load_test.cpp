@@ -199,6 +199,17 @@ TEST_F(MainFormLoad, ListsTheArchiveDaysOfTheLastYearNewestFirst) {
     EXPECT_THAT(gui.cobAvailDate.items(), ElementsAre("2026-11-20", "2026-11-18", "2025-11-20"));
 }
 
+// It counts as enabled, and without a period it does not fire.
+TEST_F(MainFormLoad, TheCaptureTimerIsEnabledWithoutAPeriod) {
+    load();
+    EXPECT_TRUE(gui.tmrCatchPhoto.running());
+    EXPECT_EQ(gui.tmrCatchPhoto.interval(), 0);
+    bench.files.put("/app/Tempvb_P.jpg", "picture");
+    bench.files.createFolder("/app/catchdata");
+    bench.clock.runFor(10'000);
+    EXPECT_FALSE(bench.files.folderExists("/app/catchdata/2026-11-20"));
+}
+
 TEST_F(MainFormLoad, TheSettingsUnfoldAtTheirKey) {
     load();
     gui.cmdExpandSetting.operatorClick();
@@ -233,13 +244,14 @@ TEST_F(MainFormLoad, ANeutralPositionThatDoesNotFitEndsTheProgram) {
 }
 
 TEST_F(MainFormLoad, ListsNothingWithoutAnArchive) {
-    gui.fileTolNum = 3;
+    gui.fileTolNum = gui.playingNumber = 3;
     gui.VideoPlayMode = "PLAY";
     load();
     EXPECT_THAT(gui.cobAvailDate.items(), IsEmpty());
     EXPECT_FALSE(gui.cmdPlay.enabled() || gui.cmdPause.enabled() || gui.cmdStopReview.enabled() ||
                  gui.cmdForward.enabled() || gui.cmdBackward.enabled());
     EXPECT_EQ(gui.fileTolNum, 0);
+    EXPECT_EQ(gui.playingNumber, 0);
     EXPECT_EQ(gui.VideoPlayMode, "");
 }
 

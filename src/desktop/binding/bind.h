@@ -9,7 +9,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QRadioButton>
 #include <functional>
 #include <string>
@@ -39,7 +39,8 @@ void bind(QCheckBox& widget, CheckBox& control, const OperatorActs& acts);
 void bind(QRadioButton& widget, OptionButton& control, const OperatorActs& acts);
 void bind(QAbstractSlider& widget, Slider& control, const OperatorActs& acts);
 void bind(QComboBox& widget, ComboBox& control, const OperatorActs& acts);
-void bind(QListWidget& widget, ListBox& control, const OperatorActs& acts);
+// Shows the lines and follows the selection; the operator selects nothing.
+void bind(QListView& widget, ListBox& control, const OperatorActs& acts);
 void bind(PictureView& widget, Picture& control, const OperatorActs& acts);
 void bind(Lamp& widget, Shape& control, const OperatorActs& acts);
 // Also tells the control where the frame is in its window.

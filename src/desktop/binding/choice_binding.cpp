@@ -71,33 +71,6 @@ class ComboBinding : public Binding {
     ComboBox& control_;
 };
 
-class ListBinding : public Binding {
-  public:
-    ListBinding(QListWidget& widget, ListBox& control, const OperatorActs& acts)
-        : Binding(widget, control, acts), widget_(widget), control_(control) {
-        widget.setSelectionMode(QAbstractItemView::NoSelection);
-        start();
-    }
-
-  protected:
-    void showValue() override {
-        const int count = static_cast<int>(control_.count());
-        for (int i = 0; i < count; ++i) {
-            const QString line = QString::fromStdString(control_.line(static_cast<std::size_t>(i)));
-            if (i >= widget_.count()) {
-                widget_.addItem(line);
-            } else if (widget_.item(i)->text() != line) {
-                widget_.item(i)->setText(line);
-            }
-        }
-        while (widget_.count() > count) delete widget_.takeItem(widget_.count() - 1);
-    }
-
-  private:
-    QListWidget& widget_;
-    ListBox& control_;
-};
-
 }  // namespace
 
 void bind(QAbstractSlider& widget, Slider& control, const OperatorActs& acts) {
@@ -106,10 +79,6 @@ void bind(QAbstractSlider& widget, Slider& control, const OperatorActs& acts) {
 
 void bind(QComboBox& widget, ComboBox& control, const OperatorActs& acts) {
     new ComboBinding(widget, control, acts);
-}
-
-void bind(QListWidget& widget, ListBox& control, const OperatorActs& acts) {
-    new ListBinding(widget, control, acts);
 }
 
 }  // namespace quorrin

@@ -62,7 +62,7 @@ QWidget* ControlFactory::make(Control& wanted) {
     if (auto* option = dynamic_cast<OptionButton*>(&wanted)) return bound<QRadioButton>(*option, acts_);
     if (auto* slider = dynamic_cast<Slider*>(&wanted)) return bound<QSlider>(*slider, acts_, Qt::Horizontal);
     if (auto* combo = dynamic_cast<ComboBox*>(&wanted)) return bound<QComboBox>(*combo, acts_);
-    if (auto* list = dynamic_cast<ListBox*>(&wanted)) return bound<QListWidget>(*list, acts_);
+    if (auto* list = dynamic_cast<ListBox*>(&wanted)) return bound<QListView>(*list, acts_);
     if (auto* picture = dynamic_cast<Picture*>(&wanted)) return bound<PictureView>(*picture, acts_, images_);
     if (auto* lamp = dynamic_cast<Shape*>(&wanted)) return bound<Lamp>(*lamp, acts_);
     if (auto* frame = dynamic_cast<Frame*>(&wanted))

@@ -23,7 +23,7 @@ class ControlFactory {
     ControlFactory(const OperatorActs& acts, Form& form, ImageList images = {});
 
     // The usual widget of the control's kind: QLineEdit, ShadowLabel, Command, QCheckBox, QRadioButton,
-    // QSlider (lying), QComboBox, QListWidget, PictureView, Lamp, QGroupBox.
+    // QSlider (lying), QComboBox, QListView, PictureView, Lamp, QGroupBox.
     QWidget* operator()(const std::string& controlName);
 
     // A kind of widget by choice, for a control of the right kind.

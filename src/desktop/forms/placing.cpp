@@ -60,6 +60,16 @@ QWidget* Placing::readOut(const std::string& name, int characters) {
     return made;
 }
 
+QWidget* Placing::note(const std::string& name) {
+    auto& control = dynamic_cast<Label&>(*form_.find(name));
+    auto* const made = new QLabel;
+    made->setWordWrap(true);
+    made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bind(*made, control, acts_);
+    make_.dress(*made, control);
+    return made;
+}
+
 QWidget* Placing::key(const std::string& name, IconName picture) {
     QWidget* const made = make_(name);
     setKeyPicture(*made, picture);

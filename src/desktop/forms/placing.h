@@ -34,6 +34,9 @@ class Placing {
     // A control with room for that many characters.
     QWidget* control(const std::string& name, int characters);
     QWidget* readOut(const std::string& name, int characters);
+    // A label for whole sentences, on as many lines as they need; it asks for no width and, empty, for no
+    // height.
+    QWidget* note(const std::string& name);
     // A check box or option button that carries no caption of its own.
     QWidget* choice(const std::string& name);
     // A place for a picture, with a ground of its own, that takes what room there is; the icon stands in it

@@ -77,6 +77,7 @@ Group* reviewGroup(Placing& place) {
                              place.key("cmdStopReview", IconName::stop)}));
     contents->addLayout(
         row({place.key("cmdBackward", IconName::backward), place.key("cmdForward", IconName::forward)}));
+    contents->addWidget(place.note("lblReviewNote"));
     return group("fra(12)", contents);
 }
 
@@ -88,6 +89,7 @@ Group* captureGroup(Placing& place) {
     days->addStretch(1);
     contents->addLayout(days);
     contents->addWidget(place.key("cmdCatch", IconName::camera));
+    contents->addWidget(place.note("lblCaptureNote"));
     return group("fra(11)", contents);
 }
 

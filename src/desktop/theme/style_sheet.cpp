@@ -6,18 +6,18 @@ namespace {
 
 // Every "{role}" stands for a colour of the theme.
 constexpr const char* kSheet = R"(
-QLineEdit, QListWidget, QComboBox, QPlainTextEdit {
+QLineEdit, QListView, QComboBox, QPlainTextEdit {
     background: {field}; color: {text}; border: 1px solid {outline}; border-radius: 4px; padding: 1px 4px;
     selection-background-color: {accent}; selection-color: {onAccent};
 }
-QLineEdit:focus, QListWidget:focus, QComboBox:focus, QPlainTextEdit:focus { border: 2px solid {focus}; padding: 0px 3px; }
+QLineEdit:focus, QListView:focus, QComboBox:focus, QPlainTextEdit:focus { border: 2px solid {focus}; padding: 0px 3px; }
 QLineEdit:read-only { background: {surface}; border-color: {line}; color: {text}; }
 QLineEdit:read-only:focus { border-color: {focus}; }
-QLineEdit:disabled, QListWidget:disabled, QComboBox:disabled { color: {disabled}; border-color: {line}; }
-QListWidget::item:selected { background: {accent}; color: {onAccent}; }
+QLineEdit:disabled, QListView:disabled, QComboBox:disabled { color: {disabled}; border-color: {line}; }
+QListView::item:selected { background: {accent}; color: {onAccent}; }
 QComboBox::drop-down { border: none; width: 20px; }
 QComboBox QAbstractItemView { background: {field}; color: {text}; selection-background-color: {accent};
-    selection-color: {onAccent}; border: 1px solid {outline}; }
+    selection-color: {onAccent}; border: 1px solid {outline}; border-radius: 0; padding: 0; }
 QCheckBox, QRadioButton { color: {text}; border: 2px solid transparent; border-radius: 4px; padding: 1px; spacing: 6px; }
 QCheckBox:focus, QRadioButton:focus { border-color: {focus}; }
 QCheckBox:disabled, QRadioButton:disabled { color: {disabled}; }

@@ -33,7 +33,7 @@ bool MemoryFiles::writeWhole(const std::string& path, const std::string& content
 }
 
 bool MemoryFiles::writeVolatile(const std::string& path, std::string_view content) {
-    if (full_ || !folderExists(folderOf(path)) || folderExists(path)) return false;
+    if (!mayChange(folderOf(path)) || !folderExists(folderOf(path)) || folderExists(path)) return false;
     files_[path] = content;
     if (const auto old = stamps_.find(path); old != stamps_.end())
         old->second = {kFreshStamps.accessNs, kFreshStamps.writeNs, old->second.mode};
@@ -41,6 +41,7 @@ bool MemoryFiles::writeVolatile(const std::string& path, std::string_view conten
 }
 
 bool MemoryFiles::remove(const std::string& path) {
+    if (readOnly_.count(folderOf(path)) != 0) return false;
     stamps_.erase(path);
     return files_.erase(path) != 0;
 }
@@ -58,8 +59,9 @@ bool MemoryFiles::putBackStamps(const std::string& path, const FileStamps& stamp
 }
 
 bool MemoryFiles::createFolder(const std::string& path) {
-    if (full_ && !folderExists(path)) return false;
-    makeFolders(withoutSlash(path));
+    const std::string folder = withoutSlash(path);
+    if (!folderExists(folder) && !mayChange(folderOf(folder))) return false;
+    makeFolders(folder);
     return true;
 }
 

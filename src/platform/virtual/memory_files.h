@@ -1,9 +1,9 @@
 // A file system in memory, for tests. Paths as in the port: absolute, "/" between folders.
 //
-// Writing or copying into a folder that does not exist fails, as on a real disk. A full disk refuses every
-// write and leaves the old content; reading, removing and looking go on. "/" exists from the start. Nobody
-// here knows the time: a file's stamps are kFreshStamps until some are put back, and a write keeps only its
-// mode.
+// Writing or copying into a folder that does not exist, or that is read-only, fails, as on a real disk. A
+// full disk refuses every write and leaves the old content; reading, removing and looking go on. "/" exists
+// from the start. Nobody here knows the time: a file's stamps are kFreshStamps until some are put back, and a
+// write keeps only its mode.
 #pragma once
 
 #include <map>
@@ -36,13 +36,17 @@ class MemoryFiles : public Files {
     // Adds to a file that there is; refused by a full disk.
     bool append(const std::string& path, std::string_view bytes);
     void setDiskFull(bool full) { full_ = full; }
+    // Nothing is created, replaced or removed right inside that folder from now on.
+    void setReadOnly(const std::string& folder) { readOnly_.insert(folder); }
 
   private:
     void makeFolders(const std::string& path);
+    bool mayChange(const std::string& folder) const { return !full_ && readOnly_.count(folder) == 0; }
 
     std::map<std::string, std::string> files_;
     std::map<std::string, FileStamps> stamps_;
     std::set<std::string> folders_;
+    std::set<std::string> readOnly_;
     bool full_ = false;
 };
 

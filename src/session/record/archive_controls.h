@@ -1,4 +1,7 @@
 // The main form's controls of the photo archive and its review player.
+//
+// cobStoreDay is offered and read by nothing: the archive grows without limit. The two notes say what went
+// wrong, and are empty while nothing did.
 #pragma once
 
 #include "base/controls.h"
@@ -10,6 +13,7 @@ struct ArchiveControls {
         : cmdCatch(form, "cmdCatch", "Start Capture"),
           optFramesPerSec(form, "optFramesPerSec", 0),
           cobStoreDay(form, "cobStoreDay"),
+          lblCaptureNote(form, "lblCaptureNote"),
           cobAvailDate(form, "cobAvailDate"),
           lstPlayVideo(form, "lstPlayVideo"),
           picPlayVideo(form, "picPlayVideo"),
@@ -21,6 +25,7 @@ struct ArchiveControls {
           cmdStopReview(form, "cmdStopReview", "STOP"),
           cmdForward(form, "cmdForward", "FORWARD"),
           cmdBackward(form, "cmdBackward", "BACKWARD"),
+          lblReviewNote(form, "lblReviewNote"),
           tmrPlayVideo(form, "tmrPlayVideo", clock, 300) {
         optFramesPerSec(1).setChosen(true);
     }
@@ -28,6 +33,7 @@ struct ArchiveControls {
     CommandButton cmdCatch;                         // caption is the state
     ControlArray<OptionButton, 2> optFramesPerSec;  // 0: three a second, 1: one a second
     ComboBox cobStoreDay;
+    Label lblCaptureNote;  // why the capture was stopped
     ComboBox cobAvailDate;
     ListBox lstPlayVideo;
     Picture picPlayVideo;
@@ -39,6 +45,7 @@ struct ArchiveControls {
     CommandButton cmdStopReview;
     CommandButton cmdForward;
     CommandButton cmdBackward;
+    Label lblReviewNote;  // why the picture under review is not shown
     Timer tmrPlayVideo;
 };
 
