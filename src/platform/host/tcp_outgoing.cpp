@@ -1,8 +1,10 @@
 #include "platform/host/tcp_outgoing.h"
 
 #include <arpa/inet.h>
+#include <linux/sockios.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 
 #include <cerrno>
@@ -70,6 +72,16 @@ std::string connectOutcome(const FileHandle& socket) {
 
 void endSending(const FileHandle& socket) {
     ::shutdown(socket.get(), SHUT_WR);
+}
+
+void closeWithoutRest(FileHandle& socket) {
+    // The end of sending counts as one byte.
+    int unconfirmed = 0;
+    if (::ioctl(socket.get(), SIOCOUTQ, &unconfirmed) == 0 && unconfirmed > 1) {
+        const linger none{1, 0};
+        ::setsockopt(socket.get(), SOL_SOCKET, SO_LINGER, &none, sizeof none);
+    }
+    socket.closeNow();
 }
 
 std::optional<double> roundTripMs(const FileHandle& socket) {

@@ -19,6 +19,9 @@ FileHandle connectTcp(const std::string& address, int port, std::string& error);
 std::string connectOutcome(const FileHandle& socket);
 // Nothing more is sent: the other side sees the end, and may still send.
 void endSending(const FileHandle& socket);
+// Closes. What the other machine has not confirmed is thrown away, and the connection reset: the kernel would
+// else go on trying on its own.
+void closeWithoutRest(FileHandle& socket);
 // The kernel's smoothed round-trip time; empty where it has none.
 std::optional<double> roundTripMs(const FileHandle& socket);
 

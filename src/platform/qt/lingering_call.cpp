@@ -21,6 +21,10 @@ LingeringCall::LingeringCall(FileHandle socket, std::string rest)
     push();
 }
 
+LingeringCall::~LingeringCall() {
+    if (!over_) end();
+}
+
 void LingeringCall::push() {
     std::string_view left = rest_;
     const TcpResult result = sendTcp(socket_, left);
@@ -42,7 +46,7 @@ void LingeringCall::end() {
     readable_.setEnabled(false);
     writable_.setEnabled(false);
     deadline_.stop();
-    socket_.closeNow();
+    closeWithoutRest(socket_);
 }
 
 }  // namespace quorrin

@@ -1,5 +1,7 @@
 // A call that its owner has closed: sends the rest, then says that nothing more comes, and throws away what
-// still arrives until the other side has closed, for at most kCallLingerMs. Internal to platform/qt.
+// still arrives until the other side has closed, for at most kCallLingerMs. What has not arrived by then
+// never does: a command of a connection that was given up must not come behind those of the next one.
+// Internal to platform/qt.
 #pragma once
 
 #include <QSocketNotifier>
@@ -13,6 +15,7 @@ namespace quorrin {
 class LingeringCall {
   public:
     LingeringCall(FileHandle socket, std::string rest);
+    ~LingeringCall();
     LingeringCall(const LingeringCall&) = delete;
     LingeringCall& operator=(const LingeringCall&) = delete;
 
