@@ -24,6 +24,7 @@ namespace {
 constexpr int kCannotBegin = 2;
 constexpr int kProgramError = 3;
 constexpr const char* kUsualHost = "127.0.0.1";
+constexpr int kStandardError = 2;
 
 int complain(const std::string& what) {
     std::cerr << "quorrin-remote: " << what << std::endl;
@@ -31,15 +32,16 @@ int complain(const std::string& what) {
 }
 
 int runScript(const std::string& host, RemoteScript script) {
-    // A reader of the output that is slow or goes away holds up nothing.
+    // A reader of the output that is slow or goes away holds up nothing: letting the robot go least of all.
     Terminal terminal;
+    Terminal errors(kStandardError);
     QtClock clock;
     QtCalls calls(clock);
     RemoteLink link(clock, calls, host);
     int status = kProgramError;
     ScriptRun run(clock, calls, link, std::move(script),
                   {[&terminal](const std::string& line) { terminal.line(line); },
-                   [](const std::string& why) { complain(why); },
+                   [&errors](const std::string& why) { errors.line("quorrin-remote: " + why); },
                    [&status](int ended) {
                        status = ended;
                        throw ProgramEnd{};

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "client/printable_text.h"
 #include "client/spoken_text.h"
 
 namespace quorrin {
@@ -10,12 +11,30 @@ namespace quorrin {
 namespace {
 
 constexpr std::int64_t kLongestMs = 60 * 60 * 1000;
+// Reading an expression goes as deep as it has brackets.
+constexpr std::size_t kLongestExpression = 500;
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+// Time that grows with the square of the text, whatever the expression: one that goes through all ways to
+// match would hold up the commands meanwhile. The price are references back.
+#ifdef __GLIBCXX__
+constexpr auto kExpressionKind = std::regex::ECMAScript | std::regex_constants::__polynomial;
+#else
+constexpr auto kExpressionKind = std::regex::ECMAScript;
+#endif
 constexpr const char* kBlanks = " \t\r";
 
 std::string_view trimmed(std::string_view text) {
     const std::size_t from = text.find_first_not_of(kBlanks);
     if (from == std::string_view::npos) return {};
     return text.substr(from, text.find_last_not_of(kBlanks) - from + 1);
+}
+
+// The last word, cut off the text.
+std::string_view takeLastWord(std::string_view& text) {
+    const std::size_t before = text.find_last_of(kBlanks);
+    const std::string_view word = before == std::string_view::npos ? text : text.substr(before + 1);
+    text = trimmed(text.substr(0, text.size() - word.size()));
+    return word;
 }
 
 // The first word, cut off the text.
@@ -28,7 +47,7 @@ std::string_view takeWord(std::string_view& text) {
 }
 
 std::string quoted(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
+    return "\"" + printableText(text) + "\"";
 }
 
 std::int64_t number(std::string_view text, std::int64_t lowest, std::int64_t highest) {
@@ -71,19 +90,17 @@ step::Ping ping(std::string_view rest) {
 }
 
 step::Expect expect(std::string_view rest) {
-    constexpr std::string_view kWithin = " within ";
-    const std::size_t within = rest.rfind(kWithin);
-    if (takeWord(rest) != "report" || within == std::string_view::npos)
+    const bool ofReports = takeWord(rest) == "report";
+    const std::string_view ms = takeLastWord(rest);
+    if (!ofReports || takeLastWord(rest) != "within" || rest.empty())
         throw std::invalid_argument("it is: expect report REGEX within MS");
-    const std::size_t at = rest.rfind(kWithin);
-    if (at == std::string_view::npos || at == 0)
-        throw std::invalid_argument("it is: expect report REGEX within MS");
-    const std::string expression(trimmed(rest.substr(0, at)));
-    const std::int64_t ms = number(trimmed(rest.substr(at + kWithin.size())), 0, kLongestMs);
+    if (rest.size() > kLongestExpression)
+        throw std::invalid_argument("the expression is longer than " + std::to_string(kLongestExpression) +
+                                    " characters");
     try {
-        return {std::regex(expression), ms};
+        return {std::regex(rest.begin(), rest.end(), kExpressionKind), number(ms, 0, kLongestMs)};
     } catch (const std::regex_error&) {
-        throw std::invalid_argument(quoted(expression) + " is no regular expression");
+        throw std::invalid_argument(quoted(rest) + " is no regular expression");
     }
 }
 
@@ -123,6 +140,7 @@ RemoteStep::What parseLine(std::string_view line) {
 
 RemoteScript parseRemoteScript(std::string_view text) {
     RemoteScript script;
+    if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark) text.remove_prefix(kByteOrderMark.size());
     for (int line = 1; !text.empty(); ++line) {
         const std::size_t end = text.find('\n');
         const std::string_view content = trimmed(text.substr(0, end));

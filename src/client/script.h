@@ -8,12 +8,14 @@
 //   clos                             lets the robot go
 //   ping on|off                      whether "PING" goes out by itself; on at the start
 //   wait MS                          up to an hour
-//   expect report REGEX within MS    a report in which the expression is found (ECMAScript)
+//   expect report REGEX within MS    a report in which the expression is found: ECMAScript without references
+//                                    back, up to 500 characters
 //   say TEXT                         to be spoken by the robot
 //   quit                             ends the script, as its end does
 //
 // Blanks around and between words do not count, except inside REGEX and TEXT; empty lines and lines that
-// begin with "#" are comments. The file is UTF-8; TEXT goes out as Windows-1252 and must be sayable in it.
+// begin with "#" are comments. The file is UTF-8, with or without a byte order mark; TEXT goes out as
+// Windows-1252 and must be sayable in it.
 #pragma once
 
 #include <array>

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "base/number_text.h"
+#include "client/printable_text.h"
 
 namespace quorrin {
 
@@ -46,15 +47,13 @@ ScriptRun::ScriptRun(Clock& clock, Calls& calls, RemoteLink& link, RemoteScript 
     link_.setReconnect(false);
     link_.onState.add([this](RemoteChannel channel) { linkChanged(channel); });
     link_.onReport.add([this](const StatusReport& report) {
-        tell("report " + report.text());
-        reports_.push_back(report.text());
-        lastReport_ = report.text();
-        seekReport();
+        lastReport_ = printableBytes(report.text());
+        tell("report " + lastReport_);
+        keepForExpect(report.text());
     });
     link_.onUnreadable.add([this](const std::string& read) {
-        tell("unreadable " + read);
-        reports_.push_back(read);
-        seekReport();
+        tell("unreadable " + printableBytes(read));
+        keepForExpect(read);
     });
 }
 
@@ -79,7 +78,7 @@ void ScriptRun::next() {
     if (over_) return;
     if (at_ == script_.steps.size()) return finish(kMet);
     const RemoteStep& one = script_.steps[at_];
-    tell("line " + std::to_string(one.line) + ": " + one.text);
+    tell("line " + std::to_string(one.line) + ": " + printableText(one.text));
     if (!carryOut(one) || over_) return;
     ++at_;
     goOn();
@@ -184,6 +183,12 @@ bool ScriptRun::expect(const step::Expect& what) {
     return false;
 }
 
+void ScriptRun::keepForExpect(const std::string& text) {
+    if (reports_.size() == kKeptReports) reports_.pop_front();
+    reports_.push_back(text.substr(0, kSearchedBytes));
+    seekReport();
+}
+
 void ScriptRun::seekReport() {
     while (expecting_ != nullptr && !reports_.empty()) {
         const bool found = std::regex_search(reports_.front(), expecting_->expression);
@@ -215,9 +220,11 @@ void ScriptRun::linkChanged(RemoteChannel channel) {
 
 void ScriptRun::failed(const std::string& why) {
     if (over_) return;
-    const std::string place = at_ < script_.steps.size() ? "line " + std::to_string(script_.steps[at_].line) +
-                                                               ": " + script_.steps[at_].text + ": "
-                                                         : "";
+    std::string place;
+    if (at_ < script_.steps.size()) {
+        const RemoteStep& one = script_.steps[at_];
+        place = "line " + std::to_string(one.line) + ": " + printableText(one.text) + ": ";
+    }
     ends_.complain(place + why);
     finish(kNotMet);
 }
@@ -228,7 +235,11 @@ void ScriptRun::finish(int status) {
     status_ = status;
     timer_.setEnabled(false);
     settle_.setEnabled(false);
-    sender_.release();
+    if (!sender_.release() && sender_.holds())
+        ends_.complain(
+            "the robot was not let go, since there is no command connection: it may drive on until the "
+            "station "
+            "misses the pings");
     close_.setEnabled(true);
 }
 

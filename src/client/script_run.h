@@ -7,11 +7,13 @@
 // itself.
 //
 // Reports count for an "expect" that have come since the last line that sent something, or since the last
-// expect that was met, whichever is later. A read whose reports cannot be told apart counts as one text.
-// Without its sensor connection an expect fails at once.
+// expect that was met, whichever is later; of more than kKeptReports the last, and of each kSearchedBytes. A
+// read whose reports cannot be told apart counts as one text. Without its sensor connection an expect fails
+// at once.
 //
 // However it ends, a robot that it still holds is let go (neutral, then "Clos"), the connections are closed
-// in order, and what is under way gets its time to arrive.
+// in order, and what is under way gets its time to arrive. Where the command connection is gone by then, that
+// the robot was not let go is told as a complaint, which does not change the status.
 //
 // What happens is told one line each to `say`, beginning with the seconds since the start: "0.250 connected
 // sensor", "3.104 report 0,0,0,1,JOY,0". The link must be its own, outlive it, and run no more after it.
@@ -36,6 +38,9 @@ class ScriptRun {
     static constexpr std::int64_t kConnectBoundMs = 10'000;
     // All six have to stand that long, since a station refuses by closing.
     static constexpr std::int64_t kSettleMs = 500;
+    // Bounds for a station that talks without end.
+    static constexpr std::size_t kKeptReports = 10'000;
+    static constexpr std::size_t kSearchedBytes = 400;
 
     struct Ends {
         std::function<void(const std::string& line)> say;
@@ -63,6 +68,7 @@ class ScriptRun {
     bool hangUp(const step::HangUp& what);
     bool sent(bool done, RemoteChannel channel);
     bool expect(const step::Expect& what);
+    void keepForExpect(const std::string& text);
     void seekReport();
     void waitFor(std::int64_t ms, std::function<void()> then);
     void failed(const std::string& why);

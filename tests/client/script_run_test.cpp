@@ -257,5 +257,38 @@ TEST_F(ScriptRunTest, LinesAreToldWithTheirTime) {
     EXPECT_THAT(said, ElementsAre("0.000 line 1: wait 250", "0.250 line 3: ping off"));
 }
 
+TEST_F(ScriptRunTest, ARobotThatCannotBeLetGoIsComplainedOf) {
+    load();
+    EXPECT_EQ(runs("connect\ndrive 5000 4000 10000 2000 2000 3400 1\nwait 1000\nhangup\n"), 0);
+    EXPECT_TRUE(values.manualPanelActive);
+    EXPECT_THAT(complaints, ElementsAre(StartsWith("the robot was not let go, since there is no command")));
+}
+
+TEST_F(ScriptRunTest, AHangUpAfterLettingGoIsNotComplainedOf) {
+    load();
+    EXPECT_EQ(runs("connect\ndrive 5000 4000 10000 2000 2000 3400 1\nwait 1000\nclos\nhangup\n"), 0);
+    EXPECT_THAT(complaints, IsEmpty());
+}
+
+TEST_F(ScriptRunTest, WhatAStationSaysIsToldWithoutControlCharacters) {
+    load();
+    begin("connect\nwait 3000\n");
+    run(2500);
+    gui.txtRobotCurrX.setText("\x1B[2J");
+    modeBecomes("JOY");
+    run(100);
+    EXPECT_THAT(said, Contains(EndsWith(" report \\x1B[2J,0,0,,JOY,0")));
+}
+
+TEST_F(ScriptRunTest, AStationThatTalksWithoutEndIsKeptInBounds) {
+    load();
+    begin("connect\nping off\nwait 20000\nexpect report ,1,0,,, within 0\n");
+    run(2000);
+    link.onReport.tell({"0", "1", "0", "", "", "0"});
+    for (std::size_t i = 0; i < ScriptRun::kKeptReports; ++i) link.onReport.tell({});
+    run(30'000);
+    EXPECT_EQ(status, 1) << "the oldest has been forgotten";
+}
+
 }  // namespace
 }  // namespace quorrin

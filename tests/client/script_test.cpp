@@ -104,5 +104,42 @@ TEST(RemoteScriptTest, OneWrongLineMakesTheWholeScriptUnusable) {
     EXPECT_TRUE(script.steps.empty());
 }
 
+TEST(RemoteScriptTest, AByteOrderMarkAndTheLineEndsOfOtherSystemsDoNotCount) {
+    const RemoteScript script = parseRemoteScript("\xEF\xBB\xBFwait 10\r\nquit\r\n");
+    EXPECT_EQ(script.error, "");
+    EXPECT_EQ(script.steps.size(), 2U);
+    EXPECT_EQ(fault("quit\n\xEF\xBB\xBFquit"), "line 2: no verb \"\xEF\xBB\xBFquit\"");
+}
+
+TEST(RemoteScriptTest, TabsStandBetweenTheWordsOfAnExpectToo) {
+    const auto expect = only<step::Expect>("expect\treport\tcomm wrong\twithin\t100");
+    EXPECT_TRUE(std::regex_search("0,0,0,4,comm wrong,0", expect.expression));
+    EXPECT_EQ(expect.withinMs, 100);
+}
+
+TEST(RemoteScriptTest, AnExpressionHasALengthThatCanBeReadWithoutRunningOutOfStack) {
+    const auto nested = [](std::size_t depth) {
+        return "expect report " + std::string(depth, '(') + std::string(depth, ')') + " within 5";
+    };
+    EXPECT_EQ(fault(nested(250)), "");
+    EXPECT_EQ(fault(nested(251)), "line 1: the expression is longer than 500 characters");
+    EXPECT_NE(fault("expect report " + std::string(500, '(') + " within 5"), "");
+}
+
+TEST(RemoteScriptTest, AnExpressionThatCouldGoThroughAllWaysToMatchDoesNot) {
+    const auto expect = only<step::Expect>("expect report ^(([0-9,]+)*)*!$ within 5");
+    // Each further character would double some centuries.
+    EXPECT_FALSE(std::regex_search(std::string(100, '0'), expect.expression));
+}
+
+TEST(RemoteScriptTest, AReferenceBackIsRefused) {
+    EXPECT_EQ(fault("expect report (.),\\1 within 5"), "line 1: \"(.),\\1\" is no regular expression");
+}
+
+TEST(RemoteScriptTest, AFaultShowsControlCharactersAndALongLineCutShort) {
+    EXPECT_EQ(fault("\x1B[2J"), "line 1: no verb \"\\x1B[2J\"");
+    EXPECT_LT(fault(std::string(1'000'000, 'x')).size(), 500U);
+}
+
 }  // namespace
 }  // namespace quorrin

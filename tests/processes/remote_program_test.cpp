@@ -1,6 +1,9 @@
 // quorrin-remote as a program: alone, and with a real station and a simulated robot.
 #include <gmock/gmock.h>
 
+#include <csignal>
+#include <cstdio>
+
 #include "processes/process_fixture.h"
 
 namespace quorrin {
@@ -50,6 +53,10 @@ TEST_F(RemoteProgram, EndsWith2AndTheLineWhenTheScriptCannotBeUsed) {
     auto missing = remote({"--host", "127.0.0.1", "--script", folder.path() + "/none.txt"}, "missing.out");
     EXPECT_EQ(missing->ends(10), 2);
     EXPECT_THAT(missing->output(), HasSubstr("cannot read the script"));
+    auto folders = remote({"--host", "127.0.0.1", "--script", folder.path()}, "folder.out");
+    EXPECT_EQ(folders->ends(10), 2);
+    auto deep = scripted("deep", "expect report " + std::string(200'000, '(') + " within 5\n");
+    EXPECT_EQ(deep->ends(10), 2) << deep->output();
 }
 
 TEST_F(RemoteProgram, EndsWith1WhereNoStationIsWithinTenSeconds) {
@@ -88,6 +95,39 @@ TEST_F(RemoteProgram, EndsWith1WhenAnExpectIsNotMetOrItIsInterrupted) {
     interrupted->signal(SIGTERM);
     EXPECT_EQ(interrupted->ends(10), 1);
     EXPECT_THAT(interrupted->output(), HasSubstr("line 2: wait 60000: interrupted"));
+}
+
+TEST_F(RemoteProgram, LetsTheRobotGoWhenItIsEndedAndNobodyReadsWhatItSays) {
+    bringUp();
+    files.writeWhole(folder.path() + "/drive.txt",
+                     "connect\ndrive 5000 6000 10000 2000 2000 3400 1\nwait 60000\n");
+    // Both outputs go into a pipe that is full.
+    auto program =
+        run({"python3", "-c",
+             "import os, subprocess, sys, fcntl\n"
+             "end, out = os.pipe()\n"
+             "os.set_blocking(out, False)\n"
+             "try:\n"
+             "    while True: os.write(out, bytes(4096))\n"
+             "except BlockingIOError: pass\n"
+             "os.set_blocking(out, True)\n"
+             "client = subprocess.Popen(sys.argv[1:], stdout=out, stderr=out)\n"
+             "sys.stdin.close()\n"
+             "print('client', client.pid, flush=True)\n"
+             "print('status', client.wait(), flush=True)\n",
+             bin + "/quorrin-remote", "--host", "127.0.0.1", "--script", folder.path() + "/drive.txt"},
+            "full.out");
+    ASSERT_TRUE(theStation->says("mode=JOY", 30)) << theStation->output();
+    int client = 0;
+    ASSERT_EQ(std::sscanf(program->output().c_str(), "client %d", &client), 1) << program->output();
+    ::kill(client, SIGINT);
+    EXPECT_TRUE(program->says("status 1", 10)) << program->output();
+    EXPECT_TRUE(eventually(
+        [this] {
+            const std::string said = theStation->output();
+            return said.rfind("mode=wondering") > said.rfind("mode=JOY");
+        },
+        10));
 }
 
 }  // namespace
