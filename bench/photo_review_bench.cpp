@@ -1,11 +1,15 @@
 // What the operator waits for in the review of archived pictures: until a day of 50,000 is open, its list on
 // the screen, and what one picture of the playback costs, which has 100 ms when a fast key is held.
 //
+// The time that passes is worth as much as the load beside it says; the processor's time holds on a busy
+// machine, too.
+//
 // Files on the real disk, a list and a picture bound as in the station's window. No screen is needed.
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QListView>
 #include <algorithm>
+#include <ctime>
 #include <vector>
 
 #include "desktop/binding/bind.h"
@@ -27,7 +31,14 @@ constexpr int kTicks = 100;
 constexpr double kOpeningAimMs = 100;
 constexpr double kPictureAimMs = 100;
 
-double median(std::vector<double> values) {
+struct Cost {
+    double passedMs = 0;
+    double processorMs = 0;
+};
+
+double median(const std::vector<Cost>& costs, double Cost::*part) {
+    std::vector<double> values;
+    for (const Cost& cost : costs) values.push_back(cost.*part);
     std::nth_element(values.begin(), values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2),
                      values.end());
     return values[values.size() / 2];
@@ -60,12 +71,14 @@ struct Review {
         QApplication::processEvents();
     }
     template <typename Work>
-    double milliseconds(Work work) {
+    Cost costOf(Work work) {
         const Stopwatch watch;
+        const std::clock_t before = std::clock();
         work();
         QApplication::processEvents();
         window.repaint();
-        return watch.seconds() * 1000;
+        const std::clock_t after = std::clock();
+        return {watch.seconds() * 1000, static_cast<double>(after - before) * 1000 / CLOCKS_PER_SEC};
     }
 
     VirtualClock clock;
@@ -86,19 +99,20 @@ int run() {
     PosixFiles files;
     if (!fillDay(files, archiveDayFolder(folder.path(), "2026-11-20"))) return 1;
     Review review(folder.path());
-    std::vector<double> openings;
+    std::vector<Cost> openings;
     for (int i = 0; i < kOpenings; ++i)
-        openings.push_back(
-            review.milliseconds([&] { review.controls.cobAvailDate.operatorChoose("2026-11-20"); }));
+        openings.push_back(review.costOf([&] { review.controls.cobAvailDate.operatorChoose("2026-11-20"); }));
     if (review.values.fileTolNum != kPictures) return 1;
-    std::vector<double> pictures;
-    for (int i = 0; i < kTicks; ++i)
-        pictures.push_back(review.milliseconds([&] { review.clock.runFor(300); }));
+    std::vector<Cost> pictures;
+    for (int i = 0; i < kTicks; ++i) pictures.push_back(review.costOf([&] { review.clock.runFor(300); }));
     if (review.values.playingNumber != kTicks || review.picture->image().isNull()) return 1;
-    printFigure("review, a day of 50,000 pictures opens", median(openings), "ms", kOpeningAimMs);
-    printFigure("review, the slowest of nine openings", *std::max_element(openings.begin(), openings.end()),
-                "ms", kOpeningAimMs);
-    printFigure("review, one picture of 640x480", median(pictures), "ms", kPictureAimMs);
+    printFigure("review, a day of 50,000 pictures opens", median(openings, &Cost::passedMs), "ms",
+                kOpeningAimMs);
+    printFigure("review, the same, processor time", median(openings, &Cost::processorMs), "ms",
+                kOpeningAimMs);
+    printFigure("review, one picture of 640x480", median(pictures, &Cost::passedMs), "ms", kPictureAimMs);
+    printFigure("review, the same picture, processor time", median(pictures, &Cost::processorMs), "ms",
+                kPictureAimMs);
     return 0;
 }
 

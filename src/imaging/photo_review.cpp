@@ -71,7 +71,8 @@ void PhotoReview::obtainFileTotalNumber(const std::string& folder) {
     names.erase(std::remove_if(names.begin(), names.end(),
                                [](const std::string& name) { return !isArchivedPicture(name); }),
                 names.end());
-    std::sort(names.begin(), names.end(), comesBefore);
+    // They come in an order that is nearly this one, which a merge is quickest with.
+    std::stable_sort(names.begin(), names.end(), comesBefore);
     values_.fileTolNum = static_cast<double>(names.size());
     controls_.lstPlayVideo.setLines(std::move(names));
 }
