@@ -92,7 +92,6 @@ const std::string& frameTitle(const std::string& group) {
         {"rawValues", "Raw Values"},
         {"channels", "Remote Channels"},
         {"landmarks", "Landmarks"},
-        {"liveViews", "Live View"},
         // On the control panel.
         {"neckAndEye", "Neck & Eye:"},
         {"wheel", "Wheel:"},
@@ -106,6 +105,8 @@ const std::string& frameName(const std::string& group) {
         {"fra(2)", "Drives, power, network and overview"},
         {"fra(5)", "Robot"},
         {"fra(9)", "Camera view"},
+        {"engineeringPages", "Pages of the engineering view"},
+        {"settingPages", "Pages of the settings"},
     };
     const std::string& title = frameTitle(group);
     return title.empty() ? textIn(untitled, group) : title;

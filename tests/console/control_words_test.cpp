@@ -8,6 +8,7 @@
 
 #include "console/live_view_words.h"
 #include "console/menu_words.h"
+#include "console/page_words.h"
 #include "support/station_bench.h"
 
 namespace quorrin {
@@ -65,6 +66,9 @@ TEST_F(ControlWordsOfAllForms, NoTwoShortcutsOfOneFormClash) {
     for (const MenuEntry entry : {MenuEntry::engineeringView, MenuEntry::lightTheme, MenuEntry::darkTheme})
         EXPECT_TRUE(owners.emplace("frmGUI: " + menuWords(entry).shortcut, menuWords(entry).text).second);
     owners.emplace(std::string("frmGUI: ") + liveViewWords().moveKeys, "live views");
+    for (const PanelPage page : {PanelPage::liveView, PanelPage::charts, PanelPage::ranges, PanelPage::tasks,
+                                 PanelPage::power, PanelPage::photos, PanelPage::remoteData})
+        EXPECT_TRUE(owners.emplace("frmGUI: " + pageWords(page).shortcut, pageWords(page).name).second);
     // The menu's own letter.
     owners.emplace("frmGUI: Alt+V", menuWords(MenuEntry::viewMenu).text);
     eachSeen([&](const Form& form, const Control& control, const ControlWords& words) {

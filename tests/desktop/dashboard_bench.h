@@ -44,7 +44,7 @@ class DashboardBench : public testing::Test {
     DashboardBench() { look.wear(lightTheme(), 1); }
 
     // Opens the window at that size in logical pixels.
-    MainWindow& open(int width = 1280, int height = 764, QWidget* views = nullptr) {
+    MainWindow& open(int width = 1280, int height = 764, LiveViews* views = nullptr) {
         if (!bench.gui.shown()) bench.station.startAtMainForm();
         window =
             std::make_unique<MainWindow>(bench.gui, bench.values, bench.station.controlPanel, acts, views);

@@ -92,7 +92,7 @@ TEST_F(FoldOutFocus, TabGoesThroughThePanelAndWhatIsSeenBesideIt) {
                                        "cmdExpandSetting", "cmdTalk"}));
     press(Qt::Key_F3);
     press(Qt::Key_F9);
-    EXPECT_THAT(stops(), IsSupersetOf({"cmdCloseSensor", "liveViewsMove", "gridView", "txtTh1",
+    EXPECT_THAT(stops(), IsSupersetOf({"cmdCloseSensor", "engineeringPages", "liveViewsMove", "gridView",
                                        "Toolbar1.Help", "cmdTalk"}));
 }
 

@@ -37,6 +37,11 @@ FoldOut::FoldOut(const QString& title, QWidget* closeKey, QWidget* contents, QWi
     setAccessibleName(title);
 }
 
+void FoldOut::putInHead(QWidget* widget) {
+    auto* const line = static_cast<QHBoxLayout*>(head_->layout());
+    line->insertWidget(line->count() - 1, widget);
+}
+
 QSize FoldOut::wholeSize() const {
     const Theme& theme = currentTheme();
     const QSize needed = contents_->minimumSizeHint();

@@ -15,6 +15,8 @@ class FoldOut : public QWidget {
   public:
     FoldOut(const QString& title, QWidget* closeKey, QWidget* contents, QWidget* over);
 
+    // Between the title and the close key.
+    void putInHead(QWidget* widget);
     // The size at which nothing scrolls.
     QSize wholeSize() const;
     const QScrollArea& area() const { return *area_; }

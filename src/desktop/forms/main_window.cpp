@@ -43,7 +43,7 @@ QAction* entry(QMenu& menu, MenuEntry name, IconName picture) {
 }  // namespace
 
 MainWindow::MainWindow(frmGUI& gui, const PublicValues& values, const Form& panel, const OperatorActs& acts,
-                       QWidget* views)
+                       LiveViews* views)
     : gui_(gui), values_(values), panelForm_(panel), make_(acts, gui, stationImages()) {
     setObjectName(text(gui.name()));
     setWindowTitle(text(quorrin::windowTitle(gui.name())));
@@ -146,7 +146,7 @@ void MainWindow::refresh() {
 void MainWindow::placePanels() {
     const QRect room = body_->geometry();
     QRect settings = room;
-    const int width = std::min(room.width(), setting_->panel().wholeSize().width());
+    const int width = setting_->arrange(room.size());
     settings.setLeft(room.right() - width + 1);
     setting_->panel().setGeometry(settings);
     sensor_->panel().setGeometry(room);

@@ -22,11 +22,13 @@
 
 namespace quorrin {
 
+class LiveViews;
+
 class MainWindow : public QWidget {
   public:
     // `panel` is the control panel's form. `views` goes into the engineering panel; it may be null.
     MainWindow(frmGUI& gui, const PublicValues& values, const Form& panel, const OperatorActs& acts,
-               QWidget* views = nullptr);
+               LiveViews* views = nullptr);
     ~MainWindow() override;
 
     // Draws what is to be told at a glance, now.

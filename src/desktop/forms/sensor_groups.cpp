@@ -38,7 +38,8 @@ Group* rangeGroup(Placing& place) {
     for (const std::string& sonar : elements("SonarT", 0, 3)) names.push_back(sonar);
     names.emplace_back("txtFrontIRL");
     names.emplace_back("txtFrontIRR");
-    contents->addLayout(readOuts(place, names, 1));
+    contents->addLayout(readOuts(place, names, 2));
+    contents->addStretch(1);
     return group("ranges", contents);
 }
 
@@ -55,7 +56,7 @@ Group* thresholdGroup(Placing& place) {
     return group("thresholds",
                  place.table({"txtTh1", "txtTh2", "txtTh3", "txtTh4", "txtWonderSpeed", "IN_SPEED",
                               "IN_TURN_Speed", "lblth1", "lblth2", "lblCa", "lblJoy"},
-                             1, kDigits));
+                             2, kDigits));
 }
 
 Group* powerLimitGroup(Placing& place) {
@@ -75,15 +76,18 @@ Group* taskGroup(Placing& place) {
     keys->addWidget(place.key("cmdCharge", IconName::charge), 2, 1);
     contents->addLayout(keys);
     QGridLayout* const captioned = grid();
-    int line = 0;
+    int at = 0;
     for (const auto& [name, picture] : {std::pair("cmdEnCA", IconName::stuck),
                                         {"p2pVFH", IconName::arrowUp},
                                         {"cmdPar", IconName::turnRight},
                                         {"cmdAlarm", IconName::warning},
                                         {"cmdGPSScan", IconName::zoom},
-                                        {"cmdDisSSGPS", IconName::close}})
-        place.captioned(*captioned, line++, 0, name, place.key(name, picture));
+                                        {"cmdDisSSGPS", IconName::close}}) {
+        place.captioned(*captioned, at / 2, 2 * (at % 2), name, place.key(name, picture));
+        ++at;
+    }
     contents->addLayout(captioned);
+    contents->addStretch(1);
     return group("tasks", contents);
 }
 
@@ -93,8 +97,9 @@ Group* targetGroup(Placing& place) {
         place.table({"In_Target_X1", "IN_Target_Y1", "IN_Target_angel1", "In_Target_X2", "In_Target_Y2",
                      "IN_target_angel2", "In_Target_X3", "In_Target_Y3", "IN_target_angel3", "In_Target_X4",
                      "In_Target_Y4", "IN_target_angel4", "OUT_EX", "OUT_EY", "OUT_EAngel"},
-                    1, kDigits));
-    contents->addLayout(place.table({"txtParStep", "txtAlarmCnt", "txtCnt", "txtRobotP2PTask"}, 1, kDigits));
+                    3, kDigits));
+    contents->addLayout(place.table({"txtParStep", "txtAlarmCnt", "txtCnt", "txtRobotP2PTask"}, 2, kDigits));
+    contents->addStretch(1);
     return group("targets", contents);
 }
 

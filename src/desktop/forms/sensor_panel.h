@@ -1,8 +1,8 @@
 // fraSensor, the engineering panel: ranges, settings in boxes, keys of the tasks, counters and raw values,
-// and the live views.
+// and the live views, on pages that are turned by tabs beside the title.
 //
 // It shows when the frame's `visible` is set, and when somebody in front of the screen opens it: that touches
-// nothing of the station. The close key closes either.
+// nothing of the station. The close key closes either. The page that was chosen last is there again.
 #pragma once
 
 #include "desktop/binding/listening.h"
@@ -11,11 +11,14 @@
 
 namespace quorrin {
 
+class LiveViews;
+class Pages;
+
 class SensorPanel {
   public:
-    // `over` owns the panel. `views`, which may be null, goes to the panel's right-hand side.
+    // `over` owns the panel. `views`, which may be null, are its first page.
     SensorPanel(Placing& place, Frame& frame, CommandButton& closeKey, const OperatorActs& acts,
-                QWidget* views, QWidget* over);
+                LiveViews* views, QWidget* over);
     SensorPanel(const SensorPanel&) = delete;
     SensorPanel& operator=(const SensorPanel&) = delete;
 
@@ -24,11 +27,13 @@ class SensorPanel {
     void toggle();
 
   private:
-    QWidget* contents(Placing& place, QWidget* views);
+    static Pages* contents(Placing& place, LiveViews* views);
+    void putPagesInHead(LiveViews* views);
     void follow();
     void close();
 
     Frame& frame_;
+    Pages* pages_;
     FoldOut* panel_;
     bool opened_ = false;
     Listening frameLook_;

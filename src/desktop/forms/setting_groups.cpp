@@ -114,8 +114,10 @@ Group* sendingGroup(Placing& place) {
     QGridLayout* const count = grid();
     place.captioned(*count, 0, 0, "txtChangeCount", place.readOut("txtChangeCount", 6));
     contents->addLayout(count);
-    contents->addWidget(group("fra(8)", presence));
-    contents->addWidget(group("fra(5)", robot));
+    auto* const groups = row({group("fra(8)", presence), group("fra(5)", robot)});
+    groups->setStretch(1, 1);
+    contents->addLayout(groups);
+    contents->addStretch(1);
     return group("fra(3)", contents);
 }
 
@@ -124,10 +126,10 @@ Group* receivedGroup(Placing& place) {
     contents->addLayout(place.table({"txtCommandCount", "txtSteeringlevel", "txtGaslevel", "txtBrakelevel",
                                      "txtHeadLR", "txtHeadUD", "txtMouthUD"},
                                     1, 6));
-    auto* const speech = row({place.caption("txtIncomeTTS"), place.control("txtIncomeTTS", 8)});
+    auto* const speech = row({place.caption("txtIncomeTTS"), place.control("txtIncomeTTS", 8),
+                              place.key("cmdTTS", IconName::speech)});
     speech->setStretch(1, 1);
     contents->addLayout(speech);
-    contents->addWidget(place.key("cmdTTS", IconName::speech));
     return group("fra(0)", contents);
 }
 

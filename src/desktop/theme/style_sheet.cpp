@@ -45,6 +45,9 @@ QPushButton { background: {field}; color: {text}; border: 1px solid {outline}; b
 QPushButton:focus { border: 2px solid {focus}; padding: 3px 13px; }
 QPushButton:pressed { background: {line}; }
 QPushButton:disabled { color: {disabled}; border-color: {line}; }
+QTabBar::tab { background: {surface}; color: {text}; border: 1px solid {outline}; border-radius: 4px; padding: 4px 7px; margin: 2px; }
+QTabBar::tab:hover { border-color: {text}; }
+QTabBar::tab:selected { background: {accent}; color: {onAccent}; border-color: {accent}; }
 QMenu { background: {surface}; color: {text}; border: 1px solid {outline}; padding: 4px; }
 QMenu::item { padding: 5px 22px 5px 10px; border-radius: 4px; }
 QMenu::item:selected { background: {accent}; color: {onAccent}; }

@@ -57,7 +57,7 @@ StripChartView::StripChartView(const StripChart& chart, QWidget* parent)
 QSize StripChartView::minimumSizeHint() const {
     const int line = QFontMetrics(smaller(font())).height();
     const int readings = static_cast<int>(chart_.plan().traces.size());
-    return {axisWidth() + readingWidth() + 120,
+    return {axisWidth() + readingWidth() + 90,
             QFontMetrics(font()).height() + std::max(4, readings + 1) * line};
 }
 
