@@ -86,9 +86,8 @@ Group* captureGroup(Placing& place) {
     contents->addLayout(row({place.choice("optFramesPerSec(0)"), place.choice("optFramesPerSec(1)")}));
     auto* days =
         row({place.caption("cobStoreDay"), place.control("cobStoreDay", 4), place.suffix("cobStoreDay")});
-    days->addStretch(1);
+    days->addWidget(place.key("cmdCatch", IconName::camera), 1);
     contents->addLayout(days);
-    contents->addWidget(place.key("cmdCatch", IconName::camera));
     contents->addWidget(place.note("lblCaptureNote"));
     return group("fra(11)", contents);
 }
