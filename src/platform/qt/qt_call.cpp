@@ -1,5 +1,6 @@
 #include "platform/qt/qt_call.h"
 
+#include <QCoreApplication>
 #include <utility>
 
 #include "platform/host/tcp_calls.h"
@@ -31,12 +32,15 @@ void QtCall::announce(void (QtCall::*step)()) {
 }
 
 void QtCall::lookUp(const std::string& host) {
-    lookUp_ = QHostInfo::lookupHost(QString::fromStdString(host), &lookUps_,
-                                    [this](const QHostInfo& answer) { found(answer); });
+    // Not called off when the call ends, since Qt then loses what it holds for the answer.
+    const std::weak_ptr<bool> life = life_;
+    QHostInfo::lookupHost(QString::fromStdString(host), QCoreApplication::instance(),
+                          [this, life](const QHostInfo& answer) {
+                              if (!life.expired()) found(answer);
+                          });
 }
 
 void QtCall::found(const QHostInfo& answer) {
-    lookUp_ = -1;
     for (const QHostAddress& address : answer.addresses()) {
         if (address.protocol() == QAbstractSocket::IPv4Protocol)
             return dial(address.toString().toStdString());
@@ -144,8 +148,6 @@ void QtCall::close() {
     const bool goesOn = state_ == CallState::connected;
     state_ = CallState::closed;
     life_.reset();
-    if (lookUp_ >= 0) QHostInfo::abortHostLookup(lookUp_);
-    lookUp_ = -1;
     // Only events of the clock come here, never Qt's own: the notifiers can go.
     readable_.reset();
     writable_.reset();

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QHostInfo>
-#include <QObject>
 #include <QSocketNotifier>
 #include <memory>
 #include <string>
@@ -43,8 +42,6 @@ class QtCall : public Call {
     CallState state_ = CallState::connecting;
     std::string error_;
     FileHandle socket_;
-    QObject lookUps_;  // receives the answer, unless it is gone by then
-    int lookUp_ = -1;
     std::unique_ptr<QSocketNotifier> readable_;
     std::unique_ptr<QSocketNotifier> writable_;
     std::string unsent_;
